@@ -1,0 +1,25 @@
+#pragma once
+
+#include "zarvexviewercomponents_export.h"
+
+class QObject;
+
+/*!
+ * Scope guard: blocks an object's signals for its lifetime and then restores
+ * whatever blocking state the object had before. A null object is allowed
+ * and ignored. Unlike QSignalBlocker, the guard is neither movable nor
+ * copyable: it is meant for one scope only.
+ */
+class ZVC_EXPORT SignalBlocker
+{
+public:
+    explicit SignalBlocker(QObject* object);
+    ~SignalBlocker();
+
+    SignalBlocker(const SignalBlocker&) = delete;
+    SignalBlocker& operator=(const SignalBlocker&) = delete;
+
+private:
+    QObject* m_object; // not owned
+    bool m_previouslyBlocked;
+};

@@ -1,0 +1,21 @@
+#include "exceptionlogging.h"
+
+QDebug operator<<(QDebug debug, const std::exception& e)
+{
+    debug << "Exception occurred:\n" << e.what() << "\n";
+    return debug;
+}
+
+namespace ExceptionLogging {
+
+void logException(const char* function, const std::exception& e)
+{
+    QMessageLogger().warning() << function << ": " << e;
+}
+
+void logUnspecifiedException(const char* function)
+{
+    QMessageLogger().warning("%s: Unspecified exception occurred.", function);
+}
+
+} // namespace ExceptionLogging

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "zarvexviewercomponents_export.h"
+
+#include <QDebug>
+
+#include <exception>
+
+/*!
+ * Writes "Exception occurred:\n", e.what() and "\n" to the stream, each
+ * honouring the stream's spacing.
+ */
+ZVC_EXPORT QDebug operator<<(QDebug debug, const std::exception& e);
+
+namespace ExceptionLogging {
+
+/*!
+ * The second line of the logging pattern for a caught std::exception:
+ * function, ": " and the exception, as a warning in the category "default".
+ * The caller logs its own sentence first.
+ */
+ZVC_EXPORT void logException(const char* function, const std::exception& e);
+
+//! The second line of the logging pattern for anything that is not a std::exception:
+//! "<function>: Unspecified exception occurred." as a warning.
+ZVC_EXPORT void logUnspecifiedException(const char* function);
+
+} // namespace ExceptionLogging

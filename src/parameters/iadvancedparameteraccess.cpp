@@ -1,0 +1,7 @@
+#include "iadvancedparameteraccess.h"
+
+namespace ParameterCollection {
+
+IAdvancedParameterAccess::~IAdvancedParameterAccess() = default;
+
+} // namespace ParameterCollection

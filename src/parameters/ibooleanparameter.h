@@ -1,0 +1,19 @@
+#pragma once
+
+#include "iparameter.h"
+
+namespace ParameterCollection {
+
+//! A boolean parameter (kind 2). Written with setValueFromString, read from its snapshot.
+class ZVC_EXPORT IBooleanParameter : public IParameter
+{
+    Q_OBJECT
+
+public:
+    ~IBooleanParameter() override;
+
+protected:
+    explicit IBooleanParameter(QObject* parent = nullptr);
+};
+
+} // namespace ParameterCollection

@@ -1,0 +1,12 @@
+#include "iintegerparameter.h"
+
+namespace ParameterCollection {
+
+IIntegerParameter::IIntegerParameter(QObject* parent)
+    : IParameter(parent)
+{
+}
+
+IIntegerParameter::~IIntegerParameter() = default;
+
+} // namespace ParameterCollection

@@ -1,0 +1,12 @@
+#include "invalidargumentexception.h"
+
+namespace GenICam {
+
+InvalidArgumentException::InvalidArgumentException(const char* message, const char* sourceFile, int line)
+    : GenericException(message, sourceFile, line)
+{
+}
+
+InvalidArgumentException::~InvalidArgumentException() = default;
+
+} // namespace GenICam

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "iparameter.h"
+#include "zarvexviewercomponents_export.h"
+
+#include <QList>
+#include <QObject>
+#include <QSharedPointer>
+#include <QString>
+
+namespace ParameterCollection {
+
+/*!
+ * One node map. Every operation may throw.
+ */
+class ZVC_EXPORT IParameterCollection : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~IParameterCollection() override;
+
+    //! For a name the node map doesn't hold: null or a zombie.
+    virtual QSharedPointer<IParameter> getParameter(QString fullName) = 0;
+    virtual bool hasParameter(QString fullName) const = 0;
+    //! Full names of the direct children of a category, in presentation order.
+    //! The library always passes false and true as the flags.
+    virtual QList<QString> getChildNames(QString fullName, bool recursive, bool presentationOrder) const = 0;
+    //! Brings every snapshot up to date, emitting parameterDataChangedDecoupled as needed.
+    virtual void refreshAll() = 0;
+    //! Lets polled parameters update themselves; receives the polling interval.
+    virtual void poll(qint64 elapsedMilliseconds) = 0;
+
+protected:
+    explicit IParameterCollection(QObject* parent = nullptr);
+};
+
+} // namespace ParameterCollection
