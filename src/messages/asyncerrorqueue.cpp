@@ -2,10 +2,14 @@
 
 #include <QMetaObject>
 #include <QMutexLocker>
+#include <QWidget>
 
 AsyncErrorQueue::AsyncErrorQueue(QObject* parent)
     : QObject(parent)
 {
+    // So that displayError can be spied on and connected across threads.
+    qRegisterMetaType<AsyncErrorQueue::ErrorSeverity>("AsyncErrorQueue::ErrorSeverity");
+    qRegisterMetaType<QWidget*>("QWidget*");
 }
 
 AsyncErrorQueue::~AsyncErrorQueue()

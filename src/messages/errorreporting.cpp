@@ -1,6 +1,7 @@
 #include "errorreporting.h"
 
 #include "asyncerrorqueue.h"
+#include "exceptionlogging.h"
 
 #include <QObject>
 #include <QtGlobal>
@@ -8,7 +9,7 @@
 void showWarningMessage(
     const QString& title, const QString& context, const QString& text, const QString& details, QWidget* parent)
 {
-    QMessageLogger().warning("Warning: %s: %s : %s", context.toLatin1().constData(), title.toLatin1().constData(),
+    ZVC_LOGGER.warning("Warning: %s: %s : %s", context.toLatin1().constData(), title.toLatin1().constData(),
         text.toLatin1().constData());
     GetTheGlobalAsyncErrorQueue()->reportErrorAsync(AsyncErrorQueue::Warning, text, details, parent);
 }
@@ -21,7 +22,7 @@ void showWarningMessage(const QString& title, const QString& context, const QStr
 void showCriticalMessage(
     const QString& title, const QString& context, const QString& text, const QString& details, QWidget* parent)
 {
-    QMessageLogger().critical("Critical message: %s : %s : %s : %s", context.toLatin1().constData(),
+    ZVC_LOGGER.critical("Critical message: %s : %s : %s : %s", context.toLatin1().constData(),
         title.toLatin1().constData(), text.toLatin1().constData(), details.toLatin1().constData());
     GetTheGlobalAsyncErrorQueue()->reportErrorAsync(AsyncErrorQueue::Critical, text, details, parent);
 }

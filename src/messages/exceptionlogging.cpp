@@ -10,12 +10,12 @@ namespace ExceptionLogging {
 
 void logException(const char* function, const std::exception& e)
 {
-    QMessageLogger().warning() << function << ": " << e;
+    ZVC_LOGGER.warning() << function << ": " << e;
 }
 
 void logUnspecifiedException(const char* function)
 {
-    QMessageLogger().warning("%s: Unspecified exception occurred.", function);
+    ZVC_LOGGER.warning("%s: Unspecified exception occurred.", function);
 }
 
 } // namespace ExceptionLogging

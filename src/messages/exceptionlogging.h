@@ -7,6 +7,13 @@
 #include <exception>
 
 /*!
+ * The logger of every message of the library: category "default", no file,
+ * line or function information. Use as ZVC_LOGGER.warning(...) or
+ * ZVC_LOGGER.debug() << ...
+ */
+#define ZVC_LOGGER QMessageLogger(nullptr, 0, nullptr, "default")
+
+/*!
  * Writes "Exception occurred:\n", e.what() and "\n" to the stream, each
  * honouring the stream's spacing.
  */
