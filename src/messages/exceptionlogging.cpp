@@ -13,6 +13,18 @@ void logException(const char* function, const std::exception& e)
     ZVC_LOGGER.warning() << function << ": " << e;
 }
 
+void logCurrentException(const char* function, const QString& sentence)
+{
+    ZVC_LOGGER.warning("%s", sentence.toUtf8().constData());
+    try {
+        throw;
+    } catch (const std::exception& e) {
+        logException(function, e);
+    } catch (...) {
+        logUnspecifiedException(function);
+    }
+}
+
 void logUnspecifiedException(const char* function)
 {
     ZVC_LOGGER.warning("%s: Unspecified exception occurred.", function);

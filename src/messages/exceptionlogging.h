@@ -32,4 +32,11 @@ ZVC_EXPORT void logException(const char* function, const std::exception& e);
 //! "<function>: Unspecified exception occurred." as a warning.
 ZVC_EXPORT void logUnspecifiedException(const char* function);
 
+/*!
+ * Both lines of the logging pattern, for use inside a catch (...) block only:
+ * the caller's sentence as a warning, then the cause of the exception being
+ * handled, classified as logException() or logUnspecifiedException() would.
+ */
+ZVC_EXPORT void logCurrentException(const char* function, const QString& sentence);
+
 } // namespace ExceptionLogging
