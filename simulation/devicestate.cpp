@@ -364,7 +364,8 @@ bool DeviceState::buildNodeMap(const NodeMapDescription& description, QString* e
             const FeatureDescription& s = desc(m, selector);
             if (s.kind != FeatureKind::Enumeration)
                 return fail(i, QStringLiteral("selector"),
-                    QStringLiteral("\"%1\" is a %2, not an Enumeration").arg(d.selector, featureKindName(s.kind)));
+                    QStringLiteral("\"%1\" is of kind %2, not an Enumeration")
+                        .arg(d.selector, featureKindName(s.kind)));
             if (!s.selector.isEmpty())
                 return fail(i, QStringLiteral("selector"),
                     QStringLiteral("\"%1\" is itself selected by \"%2\"").arg(d.selector, s.selector));
