@@ -5,6 +5,8 @@
 #include "parameters/ibaseinfo.h"
 #include "parameters/iparameter.h"
 #include "parameters/iparametercollection.h"
+#include "parameters/parameterdata.h"
+#include "simulateddevice.h"
 
 #include <QDir>
 #include <QDomDocument>
@@ -460,6 +462,166 @@ QStringList besideFileNames()
     };
 }
 
+// ---- the simulated camera --------------------------------------------------------
+
+GenApi::EVisibility visibilityOf(const QString& text)
+{
+    if (text == QLatin1String("Beginner"))
+        return GenApi::Beginner;
+    if (text == QLatin1String("Expert"))
+        return GenApi::Expert;
+    if (text == QLatin1String("Guru"))
+        return GenApi::Guru;
+    if (text == QLatin1String("Invisible"))
+        return GenApi::Invisible;
+    return GenApi::_UndefinedVisibility;
+}
+
+GenApi::EAccessMode accessModeOf(const QString& text)
+{
+    const QStringList modes { "NI", "NA", "WO", "RO", "RW" };
+    const int index = modes.indexOf(text);
+    return index < 0 ? GenApi::_UndefinedAccesMode : GenApi::EAccessMode(index);
+}
+
+//! What can be seen of one feature from outside.
+struct FeatureState
+{
+    bool present = false; //!< looked up as a live feature (or an imposable zombie)
+    QString error; //!< what a read threw, if it did
+    int type = -1;
+    int visibility = -1;
+    bool readable = false;
+    bool writable = false;
+    bool implemented = false;
+    int accessMode = -1;
+    QString valueText;
+    int reportedVisibility = -1; //!< getVisibility()
+    bool reportedWritable = false; //!< isWritable()
+
+    QString toString() const
+    {
+        if (!present)
+            return QStringLiteral("absent");
+        if (!error.isEmpty())
+            return QStringLiteral("throws ") + error;
+        return QStringLiteral("type=%1 visibility=%2 r=%3 w=%4 i=%5 access=%6 value=\"%7\" getVisibility=%8 "
+                              "isWritable=%9")
+            .arg(type)
+            .arg(visibility)
+            .arg(readable)
+            .arg(writable)
+            .arg(implemented)
+            .arg(accessMode)
+            .arg(valueText)
+            .arg(reportedVisibility)
+            .arg(reportedWritable);
+    }
+};
+
+FeatureState stateOf(const QSharedPointer<ParameterCollection::IParameter>& parameter)
+{
+    FeatureState state;
+    if (!parameter || (parameter->isZombie() && !parameter->isImposable()))
+        return state;
+    state.present = true;
+    try {
+        const QSharedPointer<const ParameterCollection::ParameterData> data = parameter->getParameterData();
+        if (data) {
+            state.type = data->type;
+            state.visibility = data->visibility;
+            state.readable = data->readable;
+            state.writable = data->writable;
+            state.implemented = data->implemented;
+            state.valueText = data->valueText;
+        }
+        state.accessMode = ParameterCollection::ParameterData::accessModeOf(data);
+        state.reportedVisibility = parameter->getVisibility();
+        state.reportedWritable = parameter->isWritable();
+    } catch (const std::exception& e) {
+        state.error = QString::fromUtf8(e.what());
+    } catch (...) {
+        state.error = QStringLiteral("something");
+    }
+    return state;
+}
+
+/*!
+ * The full names of every feature of a node map: the tree below Root, walked
+ * as the tree model does, and every feature that the device's description
+ * names for that node map, including those that no category lists and those
+ * that only exist on other transport types.
+ */
+QStringList allFeatureNames(const Simulation::SimulatedDevice& device, const QString& nodeMapName)
+{
+    const QSharedPointer<Simulation::SimulatedNodeMap> map = device.nodeMap(nodeMapName);
+    QStringList names;
+    QSet<QString> seen;
+    QStringList pending { nodeMapName + QStringLiteral("/Root") };
+    while (!pending.isEmpty()) {
+        const QString name = pending.takeFirst();
+        if (seen.contains(name))
+            continue;
+        seen.insert(name);
+        names << name;
+        const QSharedPointer<ParameterCollection::IParameter> parameter = map->getParameter(name);
+        if (parameter && !parameter->isZombie() && parameter->getType() == ParameterCollection::TypeCategory)
+            pending << map->getChildNames(name, false, true);
+    }
+    for (const Simulation::NodeMapDescription& description : device.description().nodeMaps) {
+        if (description.name != nodeMapName)
+            continue;
+        for (const Simulation::FeatureDescription& feature : description.features) {
+            const QString name = nodeMapName + QLatin1Char('/') + feature.name;
+            if (!seen.contains(name)) {
+                seen.insert(name);
+                names << name;
+            }
+        }
+    }
+    return names;
+}
+
+//! Records every decoupled change signal of the parameters it watches.
+class SignalRecorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    void watch(const QString& name, const QSharedPointer<ParameterCollection::IParameter>& parameter)
+    {
+        m_parameters.insert(parameter.data(), name);
+        m_keepAlive << parameter;
+        QVERIFY(connect(parameter.data(),
+            SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)), this,
+            SLOT(onChanged(QSharedPointer<const ParameterCollection::ParameterData>))));
+    }
+
+    QMap<QString, QSharedPointer<const ParameterCollection::ParameterData>> last; //!< last snapshot by name
+    QStringList order;
+
+private slots:
+    void onChanged(QSharedPointer<const ParameterCollection::ParameterData> data)
+    {
+        const QString name = m_parameters.value(sender());
+        order << name;
+        last.insert(name, data);
+    }
+
+private:
+    QHash<const QObject*, QString> m_parameters;
+    QList<QSharedPointer<ParameterCollection::IParameter>> m_keepAlive;
+};
+
+//! Lets queued signals arrive.
+void deliverSignals()
+{
+    for (int i = 0; i < 5; ++i) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QTest::qWait(10);
+    }
+}
+
 } // namespace
 
 class TestNodeMapFilter : public QObject
@@ -533,10 +695,17 @@ private slots:
     void specialFilesAreNotFilterFiles();
     void manyItemsAreProcessed();
 
+    // the default simulated camera
+    void simulatedCameraHasTheExpectedNodeMaps();
+    void shippedFilterOnSimulatedCamera_data();
+    void shippedFilterOnSimulatedCamera();
+    void refusedVisibilityOnSimulatedCamera();
+
 private:
     QString besidePath(const QString& fileName) const { return m_besideDirectory + fileName; }
     void writeBeside(const QString& fileName, const QByteArray& content);
     void expect(QtMsgType type, const QString& text);
+    void expectPattern(QtMsgType type, const QString& pattern);
     void expectParseFailure(const QString& path, const QString& reason);
     void expectCause(Failure failure, const QString& what);
     void verifyMessages();
@@ -609,6 +778,15 @@ void TestNodeMapFilter::expect(QtMsgType type, const QString& text)
     QTest::ignoreMessage(type, qPrintable(text));
     m_expected.append({ type, text });
     m_expectedPatterns.append(QRegularExpression());
+}
+
+void TestNodeMapFilter::expectPattern(QtMsgType type, const QString& pattern)
+{
+    const QRegularExpression expression(pattern);
+    QVERIFY(expression.isValid());
+    QTest::ignoreMessage(type, expression);
+    m_expected.append({ type, QString() });
+    m_expectedPatterns.append(expression);
 }
 
 //! A parse failure of path, whose reason is a text of the parser and so only matched by pattern.
@@ -1591,6 +1769,223 @@ void TestNodeMapFilter::manyItemsAreProcessed()
     auto collection = QSharedPointer<FakeCollection>::create();
     QVERIFY(NodeMapFilter::applyFilter(collection, camera(QStringLiteral("GEV")), QStringLiteral("@NmfWide")));
     QCOMPARE(collection->log, callsFor(rows));
+    verifyMessages();
+}
+
+// ---- the default simulated camera -----------------------------------------------------
+
+void TestNodeMapFilter::simulatedCameraHasTheExpectedNodeMaps()
+{
+    const QStringList expected { "@CameraDevice", "@DeviceTransportLayer", "@StreamGrabber0", "@EventGrabber",
+        "@ImageFormatConverter" };
+    const QStringList types { "GEV", "U3V", "IIDC", "CamEmu", "ZCON" };
+    for (const QString& type : types) {
+        const QSharedPointer<Simulation::SimulatedDevice> device = Simulation::SimulatedDevice::createDefault(type);
+        QVERIFY(device);
+        QCOMPARE(device->nodeMapNames(), expected);
+        QCOMPARE(device->baseInfo()->getTLType(), type);
+    }
+}
+
+void TestNodeMapFilter::shippedFilterOnSimulatedCamera_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("nodeMapName");
+    QTest::addColumn<QString>("fileName");
+
+    // Each shipped file on the camera and node map it is written for ...
+    QTest::newRow("GEV camera device: default") << "GEV"
+                                                << "@CameraDevice"
+                                                << "Default_Filter.xml";
+    QTest::newRow("U3V camera device") << "U3V"
+                                       << "@CameraDevice"
+                                       << "U3V_CameraDevice_Filter.xml";
+    QTest::newRow("GEV transport layer") << "GEV"
+                                         << "@DeviceTransportLayer"
+                                         << "GEV_DeviceTransportLayer_Filter.xml";
+    QTest::newRow("U3V transport layer") << "U3V"
+                                         << "@DeviceTransportLayer"
+                                         << "U3V_DeviceTransportLayer_Filter.xml";
+    QTest::newRow("GEV stream grabber") << "GEV"
+                                        << "@StreamGrabber0"
+                                        << "GEV_StreamGrabber_Filter.xml";
+    QTest::newRow("CamEmu stream grabber") << "CamEmu"
+                                           << "@StreamGrabber0"
+                                           << "CamEmu_StreamGrabber_Filter.xml";
+    QTest::newRow("IIDC stream grabber") << "IIDC"
+                                         << "@StreamGrabber0"
+                                         << "IIDC_StreamGrabber_Filter.xml";
+    QTest::newRow("GEV image format converter") << "GEV"
+                                                << "@ImageFormatConverter"
+                                                << "ImageFormatConverter_Filter.xml";
+
+    // ... and the rest of the five node maps on five transport types.
+    QTest::newRow("GEV event grabber") << "GEV"
+                                       << "@EventGrabber"
+                                       << "Default_Filter.xml";
+    QTest::newRow("U3V stream grabber") << "U3V"
+                                        << "@StreamGrabber0"
+                                        << "Default_Filter.xml";
+    QTest::newRow("U3V event grabber") << "U3V"
+                                       << "@EventGrabber"
+                                       << "Default_Filter.xml";
+    QTest::newRow("U3V image format converter") << "U3V"
+                                                << "@ImageFormatConverter"
+                                                << "ImageFormatConverter_Filter.xml";
+    QTest::newRow("IIDC camera device") << "IIDC"
+                                        << "@CameraDevice"
+                                        << "Default_Filter.xml";
+    QTest::newRow("IIDC transport layer") << "IIDC"
+                                          << "@DeviceTransportLayer"
+                                          << "Default_Filter.xml";
+    QTest::newRow("IIDC image format converter") << "IIDC"
+                                                 << "@ImageFormatConverter"
+                                                 << "ImageFormatConverter_Filter.xml";
+    QTest::newRow("CamEmu camera device") << "CamEmu"
+                                          << "@CameraDevice"
+                                          << "Default_Filter.xml";
+    QTest::newRow("CamEmu transport layer") << "CamEmu"
+                                            << "@DeviceTransportLayer"
+                                            << "Default_Filter.xml";
+    QTest::newRow("CamEmu event grabber") << "CamEmu"
+                                          << "@EventGrabber"
+                                          << "Default_Filter.xml";
+    QTest::newRow("ZCON camera device") << "ZCON"
+                                        << "@CameraDevice"
+                                        << "Default_Filter.xml";
+    QTest::newRow("ZCON transport layer") << "ZCON"
+                                          << "@DeviceTransportLayer"
+                                          << "Default_Filter.xml";
+    QTest::newRow("ZCON stream grabber") << "ZCON"
+                                         << "@StreamGrabber0"
+                                         << "Default_Filter.xml";
+    QTest::newRow("ZCON image format converter") << "ZCON"
+                                                 << "@ImageFormatConverter"
+                                                 << "ImageFormatConverter_Filter.xml";
+}
+
+void TestNodeMapFilter::shippedFilterOnSimulatedCamera()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, nodeMapName);
+    QFETCH(QString, fileName);
+
+    const QSharedPointer<Simulation::SimulatedDevice> device = Simulation::SimulatedDevice::createDefault(type);
+    QVERIFY(device);
+    const QSharedPointer<Simulation::SimulatedNodeMap> map = device->nodeMap(nodeMapName);
+    QVERIFY(map);
+
+    const QStringList names = allFeatureNames(*device, nodeMapName);
+    QVERIFY(names.size() > 1);
+    SignalRecorder recorder;
+    QMap<QString, FeatureState> before;
+    for (const QString& name : names) {
+        const QSharedPointer<ParameterCollection::IParameter> parameter = map->getParameter(name);
+        before.insert(name, stateOf(parameter));
+        if (before.value(name).present)
+            recorder.watch(name, parameter);
+    }
+
+    // What the file should impose, by full name; the later row wins per property.
+    QMap<QString, QString> imposedVisibility;
+    QMap<QString, QString> imposedAccessMode;
+    int listedAndPresent = 0;
+    for (const Row& row : shippedFilters().value(fileName)) {
+        const QString name = nodeMapName + QLatin1Char('/') + row.name;
+        if (!before.value(name).present)
+            continue;
+        ++listedAndPresent;
+        if (!row.visibility.isEmpty())
+            imposedVisibility[name] = row.visibility;
+        if (!row.accessMode.isEmpty())
+            imposedAccessMode[name] = row.accessMode;
+    }
+    // Every file is tried where it belongs, on features that exist.
+    if (fileName != QLatin1String("Default_Filter.xml") || nodeMapName == QLatin1String("@CameraDevice"))
+        QVERIFY2(listedAndPresent > 0, "no feature of the file exists in this node map");
+
+    QVERIFY(NodeMapFilter::applyFilter(map, device->baseInfo(), nodeMapName));
+    deliverSignals();
+
+    QStringList changed;
+    for (const QString& name : names) {
+        const FeatureState old = before.value(name);
+        const FeatureState now = stateOf(map->getParameter(name));
+        if (!imposedVisibility.contains(name) && !imposedAccessMode.contains(name)) {
+            // Nothing else changes.
+            QVERIFY2(now.toString() == old.toString(),
+                qPrintable(name + QStringLiteral(":\n  before ") + old.toString() + QStringLiteral("\n  after  ")
+                    + now.toString()));
+            continue;
+        }
+        const QString both
+            = name + QStringLiteral(":\n  before ") + old.toString() + QStringLiteral("\n  after  ") + now.toString();
+        QVERIFY2(now.present && now.error.isEmpty(), qPrintable(both));
+        QCOMPARE(now.type, old.type);
+        QCOMPARE(now.valueText, old.valueText);
+        if (imposedVisibility.contains(name)) {
+            const int visibility = visibilityOf(imposedVisibility.value(name));
+            QVERIFY2(now.visibility == visibility && now.reportedVisibility == visibility, qPrintable(both));
+        } else {
+            QVERIFY2(
+                now.visibility == old.visibility && now.reportedVisibility == old.reportedVisibility, qPrintable(both));
+        }
+        if (imposedAccessMode.contains(name)) {
+            const GenApi::EAccessMode mode = accessModeOf(imposedAccessMode.value(name));
+            QVERIFY2(now.accessMode == mode, qPrintable(both));
+            QVERIFY2(now.reportedWritable == (mode == GenApi::RW || mode == GenApi::WO), qPrintable(both));
+        } else {
+            QVERIFY2(now.accessMode == old.accessMode && now.readable == old.readable && now.writable == old.writable
+                    && now.implemented == old.implemented && now.reportedWritable == old.reportedWritable,
+                qPrintable(both));
+        }
+        if (now.toString() != old.toString())
+            changed << name;
+    }
+
+    // Later snapshots show it too: exactly the features that changed signalled,
+    // and the last snapshot each sent carries the imposed values.
+    QStringList signalled = recorder.last.keys();
+    signalled.sort();
+    changed.sort();
+    QCOMPARE(signalled, changed);
+    for (const QString& name : qAsConst(changed)) {
+        const QSharedPointer<const ParameterCollection::ParameterData> data = recorder.last.value(name);
+        QVERIFY(data);
+        if (imposedVisibility.contains(name))
+            QCOMPARE(data->visibility, qint32(visibilityOf(imposedVisibility.value(name))));
+        if (imposedAccessMode.contains(name))
+            QCOMPARE(
+                ParameterCollection::ParameterData::accessModeOf(data), accessModeOf(imposedAccessMode.value(name)));
+    }
+    verifyMessages();
+}
+
+void TestNodeMapFilter::refusedVisibilityOnSimulatedCamera()
+{
+    const QSharedPointer<Simulation::SimulatedDevice> device
+        = Simulation::SimulatedDevice::createDefault(QStringLiteral("U3V"));
+    const QSharedPointer<Simulation::SimulatedNodeMap> map = device->nodeMap(QStringLiteral("@CameraDevice"));
+    const QString width = QStringLiteral("@CameraDevice/Width");
+    const QString height = QStringLiteral("@CameraDevice/Height");
+    const FeatureState widthBefore = stateOf(map->getParameter(width));
+    const FeatureState heightBefore = stateOf(map->getParameter(height));
+    QVERIFY(widthBefore.present && heightBefore.present);
+    QCOMPARE(widthBefore.accessMode, int(GenApi::RW));
+    QCOMPARE(heightBefore.accessMode, int(GenApi::RW));
+
+    // Replaces the shipped U3V_CameraDevice_Filter.xml for this test.
+    writeBeside(QStringLiteral("U3V_CameraDevice_Filter.xml"),
+        filterXml({ { "Width", "Sometimes", "RO" }, { "Height", "Guru", "RO" } }));
+    expect(QtWarningMsg, QStringLiteral("Failed to impose the visibility of node Width"));
+    expectPattern(QtWarningMsg, QStringLiteral("^processElement :  Exception occurred:\n .+"));
+    QVERIFY(NodeMapFilter::applyFilter(map, device->baseInfo(), QStringLiteral("@CameraDevice")));
+
+    // Width keeps its old access mode although its item has one; Height, the next item, gets both.
+    QCOMPARE(stateOf(map->getParameter(width)).toString(), widthBefore.toString());
+    const FeatureState heightAfter = stateOf(map->getParameter(height));
+    QCOMPARE(heightAfter.visibility, int(GenApi::Guru));
+    QCOMPARE(heightAfter.accessMode, int(GenApi::RO));
     verifyMessages();
 }
 
