@@ -1,0 +1,422 @@
+#include "featuretreeinodeitem.h"
+
+#include "ifeaturetreemodelextension.h"
+#include "messages/exceptionlogging.h"
+#include "nodemapname.h"
+#include "parameters/iadvancedparameteraccess.h"
+#include "parameters/icommandparameter.h"
+#include "parameters/ifloatparameter.h"
+#include "parameters/iintegerparameter.h"
+
+#include <QCoreApplication>
+#include <QUuid>
+
+using namespace ParameterCollection;
+
+FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
+    QSharedPointer<IParameter> node, const QString& displayedName, IFeatureTreeModelExtension* extension,
+    const QString& fullName, FeatureTreeItem* parent, bool textAsUtf8)
+    : FeatureTreeItem(displayedName, extension, fullName, parent)
+    , m_collection(std::move(collection))
+    , m_node(std::move(node))
+    , m_textAsUtf8(textAsUtf8)
+    , m_translationContext(GetNodemapName(fullName))
+{
+    initInternal();
+}
+
+FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
+    QSharedPointer<IParameter> node, IFeatureTreeModelExtension* extension, const QString& fullName,
+    FeatureTreeItem* parent, bool textAsUtf8)
+    : FeatureTreeItem(QString(), extension, fullName, parent)
+    , m_collection(std::move(collection))
+    , m_node(std::move(node))
+    , m_textAsUtf8(textAsUtf8)
+    , m_translationContext(GetNodemapName(fullName))
+{
+    initInternal();
+    try {
+        if (m_node && !m_node->isZombie()) {
+            connect(m_node.data(),
+                SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)), this,
+                SLOT(onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)),
+                Qt::AutoConnection);
+        }
+    } catch (...) {
+        // A zombie test that throws leaves the item unsubscribed, showing what it cached.
+        ExceptionLogging::logCurrentException("FeatureTreeINodeItem", QStringLiteral("Failed to subscribe to a node"));
+    }
+    setDisplayedName(m_displayName);
+}
+
+FeatureTreeINodeItem::~FeatureTreeINodeItem()
+{
+    clearChildren();
+}
+
+void FeatureTreeINodeItem::initInternal()
+{
+    m_childrenFetched = true;
+    if (!m_node) {
+        m_editorType = EditorInvalid;
+        m_parameterData = ParameterData::createPlaceholder();
+        m_name = QStringLiteral("Unknown");
+        m_displayName = m_name;
+        return;
+    }
+
+    try {
+        if (const QSharedPointer<IAdvancedParameterAccess> access = m_node->advancedAccess()) {
+            m_unit = access->getProperty(QStringLiteral("Unit"), QString());
+            m_descriptionText = access->getProperty(QStringLiteral("Description"), QString());
+            m_toolTipText = access->getProperty(QStringLiteral("Tooltip"), QString());
+            m_docuUrl = access->getProperty(QStringLiteral("DocuURL"), QString());
+            m_displayName = access->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+            m_name = m_node->getName();
+        }
+    } catch (...) {
+        ExceptionLogging::logCurrentException(
+            "initInternal", QStringLiteral("Exception fired when caching parameter properties"));
+    }
+
+    try {
+        QSharedPointer<const ParameterData> data = m_node->getParameterData();
+        m_parameterData = data ? data : ParameterData::createPlaceholder();
+        m_childrenFetched = (m_parameterData->type != TypeCategory);
+        m_editorType = editorType(m_node);
+    } catch (...) {
+        ExceptionLogging::logCurrentException(
+            "initInternal", QStringLiteral("Exception fired when caching parameter data"));
+    }
+    if (!m_parameterData)
+        m_parameterData = ParameterData::createPlaceholder();
+}
+
+void FeatureTreeINodeItem::clearChildren()
+{
+    FeatureTreeItem::clearChildren();
+}
+
+int FeatureTreeINodeItem::childCount()
+{
+    if (!m_childrenFetched && m_node) {
+        // Set first: the model's own row calls during the fill must not fill again,
+        // and a fill that failed is not tried again.
+        m_childrenFetched = true;
+        if (IFeatureTreeModelExtension* extension = getExtension())
+            extension->addChildren(this);
+    }
+    return m_children.count();
+}
+
+QVariant FeatureTreeINodeItem::data(int column, int role) const
+{
+    if (!m_parameterData || !m_node)
+        return QVariant();
+    try {
+        const int kind = m_parameterData->type;
+        if (column == 0) {
+            switch (role) {
+            case Qt::DisplayRole:
+                return m_unit.isEmpty() ? m_displayedName : QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+            case Qt::ToolTipRole:
+                return toolTip();
+            case Qt::ForegroundRole:
+                return GetForegroundRole();
+            case NodeNameRole:
+                return m_name;
+            case NodeToolTipRole:
+                return m_toolTipText;
+            case NodeDescriptionRole:
+                return m_descriptionText;
+            case NodeDocuUrlRole:
+                return m_docuUrl;
+            case IsCategoryRole:
+                return kind == TypeCategory;
+            case VisibilityRole:
+                return getVisibility();
+            case ItemIdRole:
+                return QUuid::createUuid().toString();
+            case IsFullRowRole:
+                return kind == TypeCategory;
+            case IsSpecialNodeRole:
+                return m_specialNode;
+            case ShowMeRole:
+                return ShowMe(GenApi::Guru);
+            case FullNameRole:
+                return m_fullName;
+            default:
+                return FeatureTreeItem::data(column, role);
+            }
+        }
+        if (column == 1) {
+            switch (role) {
+            case Qt::DisplayRole:
+                return valueDisplayText();
+            case Qt::EditRole:
+                if (kind == TypeCategory || kind == TypeBoolean)
+                    return QVariant();
+                return m_parameterData->readable ? QVariant(m_parameterData->valueText) : QVariant();
+            case Qt::ForegroundRole:
+                return GetForegroundRole();
+            default:
+                break;
+            }
+        }
+        return FeatureTreeItem::data(column, role);
+    } catch (...) {
+        ExceptionLogging::logCurrentException("data", QStringLiteral("Exception fired when trying to access a node"));
+        return QStringLiteral("<error!>");
+    }
+}
+
+QVariant FeatureTreeINodeItem::valueDisplayText() const
+{
+    const ParameterData& data = *m_parameterData;
+    if (data.type == TypeCategory || data.type == TypeBoolean)
+        return QString(QLatin1String(""));
+    if (!data.implemented)
+        return tr("<not implemented>");
+    if (data.readable)
+        return data.valueText;
+    if (data.writable)
+        return tr("<not readable>");
+    return tr("<not available>");
+}
+
+QVariant FeatureTreeINodeItem::toolTip() const
+{
+    try {
+        const QByteArray key = QStringLiteral("%1_Tooltip").arg(m_name).toLatin1();
+        const QByteArray context = m_translationContext.toLatin1();
+        const QString translated = QCoreApplication::translate(context.constData(), key.constData());
+        const QString text = (translated.toLatin1() == key) ? m_toolTipText : translated;
+
+        QString html;
+        if (m_name.contains(QLatin1String("Root")) || m_parameterData->type == TypeCategory)
+            html = QStringLiteral("<nobr><b>%1</b></nobr>").arg(m_displayedName);
+        else
+            html = QStringLiteral("<nobr><b>%1 (%2)</b></nobr>").arg(m_displayedName, m_name);
+        // Search marks in tool tips come with the highlighter.
+        if (!text.isEmpty())
+            html += QStringLiteral("<br><nobr>%1</nobr>").arg(text);
+        return html;
+    } catch (...) {
+        ExceptionLogging::logCurrentException("data", QStringLiteral("Failed to get node's tooltip"));
+        return QVariant();
+    }
+}
+
+void FeatureTreeINodeItem::setData(int column, const QVariant& value, int role)
+{
+    if (column != 1 || role != Qt::EditRole || !m_node || m_node->isZombie() || !m_node->isWritable())
+        return;
+    if (m_editorType == EditorCommand) {
+        if (ICommandParameter* command = qobject_cast<ICommandParameter*>(m_node.data())) {
+            command->execute(true);
+            command->setCommandPending(true);
+        }
+        return;
+    }
+    // The parameter layer takes text as a byte string carried in a QString:
+    // non-ASCII text arrives as its encoded bytes, one character per byte.
+    QByteArray bytes = m_textAsUtf8 ? value.toString().toUtf8() : value.toString().toLatin1();
+    const int zero = bytes.indexOf('\0');
+    if (zero >= 0)
+        bytes.truncate(zero);
+    m_node->setValueFromString(QString::fromLatin1(bytes));
+}
+
+int FeatureTreeINodeItem::row() const
+{
+    return FeatureTreeItem::row();
+}
+
+FeatureTreeItem* FeatureTreeINodeItem::parent()
+{
+    return FeatureTreeItem::parent();
+}
+
+IFeatureTreeModelExtension* FeatureTreeINodeItem::getExtension()
+{
+    return FeatureTreeItem::getExtension();
+}
+
+const IFeatureTreeModelExtension* FeatureTreeINodeItem::getExtension() const
+{
+    return FeatureTreeItem::getExtension();
+}
+
+int FeatureTreeINodeItem::editorType() const
+{
+    return m_editorType;
+}
+
+bool FeatureTreeINodeItem::hasChildren() const
+{
+    return m_parameterData && m_parameterData->type == TypeCategory;
+}
+
+bool FeatureTreeINodeItem::ShowMe(GenApi::EVisibility visibility) const
+{
+    if (visibility == GenApi::Invisible)
+        return true;
+    try {
+        if (!m_parameterData || !m_parameterData->implemented)
+            return false;
+        return getVisibility() <= visibility;
+    } catch (...) {
+        ExceptionLogging::logCurrentException(
+            "ShowMe", QStringLiteral("Exception fired when trying to determine whether item is visible"));
+        return false;
+    }
+}
+
+GenApi::EAccessMode FeatureTreeINodeItem::getAccessMode() const
+{
+    return ParameterData::accessModeOf(m_parameterData);
+}
+
+GenApi::EVisibility FeatureTreeINodeItem::getVisibility() const
+{
+    return m_parameterData ? static_cast<GenApi::EVisibility>(m_parameterData->visibility)
+                           : GenApi::_UndefinedVisibility;
+}
+
+Qt::ItemFlags FeatureTreeINodeItem::flags(int column) const
+{
+    Qt::ItemFlags result = FeatureTreeItem::flags(column);
+    if (!m_parameterData)
+        return Qt::NoItemFlags;
+    const bool writable = m_parameterData->writable;
+    const bool isCategory = m_parameterData->type == TypeCategory;
+    if (column == 0) {
+        if (writable || isCategory)
+            result |= Qt::ItemIsEnabled;
+        if (m_parameterData->readable) {
+            if (isCategory)
+                result &= ~Qt::ItemIsDragEnabled;
+            else
+                result |= Qt::ItemIsDragEnabled;
+        }
+    } else if (column == 1 && writable) {
+        result |= Qt::ItemIsEditable | Qt::ItemIsEnabled;
+    }
+    return result;
+}
+
+QVariant FeatureTreeINodeItem::GetForegroundRole() const
+{
+    const bool isCategory = m_parameterData && m_parameterData->type == TypeCategory;
+    if (!isEditable() && !isCategory)
+        return FeatureTreeItem::GetForegroundRole();
+    return QVariant();
+}
+
+bool FeatureTreeINodeItem::isEditable() const
+{
+    if (!m_parameterData || m_editorType == EditorNone || m_editorType == EditorInvalid)
+        return false;
+    return m_parameterData->writable;
+}
+
+int FeatureTreeINodeItem::editorType(QSharedPointer<IParameter> node)
+{
+    if (!node || node->isZombie())
+        return EditorInvalid;
+    const auto representation = [&node]() {
+        const QSharedPointer<IAdvancedParameterAccess> access = node->advancedAccess();
+        return access ? access->getProperty(QStringLiteral("Representation")) : QString();
+    };
+    const auto isSliderRepresentation
+        = [](const QString& text) { return text == QLatin1String("Linear") || text == QLatin1String("Logarithmic"); };
+    switch (node->getType()) {
+    case TypeInteger:
+        return isSliderRepresentation(representation()) ? EditorIntSlider : EditorInt;
+    case TypeFloat:
+        return isSliderRepresentation(representation()) ? EditorFloatSlider : EditorFloat;
+    case TypeEnumeration:
+        return EditorEnum;
+    case TypeBoolean:
+        return EditorBool;
+    case TypeString:
+        return EditorString;
+    case TypeCommand:
+        return EditorCommand;
+    default:
+        return EditorNone;
+    }
+}
+
+int FeatureTreeINodeItem::editorType(const FeatureTreeINodeItem* item)
+{
+    return item ? editorType(item->node()) : static_cast<int>(EditorInvalid);
+}
+
+QSharedPointer<IParameter> FeatureTreeINodeItem::node() const
+{
+    return m_node;
+}
+
+QSharedPointer<const ParameterData> FeatureTreeINodeItem::getParameterData() const
+{
+    return m_parameterData;
+}
+
+QSharedPointer<IParameterCollection> FeatureTreeINodeItem::collection() const
+{
+    return m_collection;
+}
+
+void FeatureTreeINodeItem::setHighlighter(FeatureTreeHighlighter* highlighter)
+{
+    m_highlighter = highlighter;
+}
+
+void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> data)
+{
+    const IFeatureTreeModelExtension* extension = getExtension();
+    if (!extension || !extension->getGenICamCallbackEnable())
+        return;
+    if (!data)
+        return;
+    try {
+        // A camera's range can move under a value: write the nearest limit back and
+        // wait for the snapshot that write brings, instead of showing an invalid one.
+        if (data->writable && (data->type == TypeInteger || data->type == TypeFloat)) {
+            if (data->type == TypeInteger) {
+                IIntegerParameter* integer = qobject_cast<IIntegerParameter*>(m_node.data());
+                const auto values = data.dynamicCast<const IntegerParameterData>();
+                if (integer && values) {
+                    if (values->value < values->minimum) {
+                        integer->setValue(values->minimum, true);
+                        return;
+                    }
+                    if (values->value > values->maximum) {
+                        integer->setValue(values->maximum, true);
+                        return;
+                    }
+                }
+            } else {
+                IFloatParameter* floating = qobject_cast<IFloatParameter*>(m_node.data());
+                const auto values = data.dynamicCast<const FloatParameterData>();
+                if (floating && values) {
+                    if (values->value < values->minimum) {
+                        floating->setValue(values->minimum);
+                        return;
+                    }
+                    if (values->value > values->maximum) {
+                        floating->setValue(values->maximum);
+                        return;
+                    }
+                }
+            }
+        }
+    } catch (...) {
+        ExceptionLogging::logCurrentException(
+            "onParameterDataChanged", QStringLiteral("Failed to adjust a node: %1").arg(m_name));
+        return;
+    }
+    m_parameterData = data;
+    emit nodeUpdated(row(), this);
+}

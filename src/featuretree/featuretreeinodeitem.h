@@ -1,0 +1,88 @@
+#pragma once
+
+#include "featuretreeitem.h"
+#include "parameters/iparameter.h"
+#include "parameters/iparametercollection.h"
+#include "parameters/parameterdata.h"
+
+#include <QSharedPointer>
+
+class FeatureTreeHighlighter;
+
+/*!
+ * An item that stands for one parameter. It caches what the tree shows of the
+ * parameter (properties when built, the last accepted snapshot since), so that
+ * data() never reaches the device. Parameter and collection are shared with
+ * the parameter layer; the item deletes neither. The highlighter is not owned.
+ */
+class ZVC_EXPORT FeatureTreeINodeItem : public FeatureTreeItem
+{
+    Q_OBJECT
+
+public:
+    //! For node map roots: keeps displayedName and subscribes to nothing.
+    FeatureTreeINodeItem(QSharedPointer<ParameterCollection::IParameterCollection> collection,
+        QSharedPointer<ParameterCollection::IParameter> node, const QString& displayedName,
+        IFeatureTreeModelExtension* extension, const QString& fullName, FeatureTreeItem* parent, bool textAsUtf8);
+    //! For all other items: subscribes to the parameter's changes and shows its display name.
+    FeatureTreeINodeItem(QSharedPointer<ParameterCollection::IParameterCollection> collection,
+        QSharedPointer<ParameterCollection::IParameter> node, IFeatureTreeModelExtension* extension,
+        const QString& fullName, FeatureTreeItem* parent, bool textAsUtf8);
+    ~FeatureTreeINodeItem() override;
+
+    void clearChildren() override;
+    int childCount() override;
+    QVariant data(int column, int role) const override;
+    //! Writes to the parameter; throws what the parameter throws.
+    void setData(int column, const QVariant& value, int role) override;
+    int row() const override;
+    FeatureTreeItem* parent() override;
+    IFeatureTreeModelExtension* getExtension() override;
+    const IFeatureTreeModelExtension* getExtension() const override;
+    int editorType() const override;
+    bool hasChildren() const override;
+    bool ShowMe(GenApi::EVisibility visibility) const override;
+    GenApi::EAccessMode getAccessMode() const override;
+    GenApi::EVisibility getVisibility() const override;
+    Qt::ItemFlags flags(int column) const override;
+    QVariant GetForegroundRole() const override;
+    bool isEditable() const override;
+
+    using FeatureTreeItem::editorType;
+    //! The editor type of a parameter by its kind and "Representation"; 11 for null or a zombie.
+    static int editorType(QSharedPointer<ParameterCollection::IParameter> node);
+    //! The rule above on the item's node; 11 for null.
+    static int editorType(const FeatureTreeINodeItem* item);
+
+    QSharedPointer<ParameterCollection::IParameter> node() const;
+    QSharedPointer<const ParameterCollection::ParameterData> getParameterData() const;
+    QSharedPointer<ParameterCollection::IParameterCollection> collection() const;
+
+    void setHighlighter(FeatureTreeHighlighter* highlighter);
+    FeatureTreeHighlighter* highlighter() const { return m_highlighter; }
+    QString translationContext() const { return m_translationContext; }
+
+signals:
+    void nodeUpdated(int row, FeatureTreeINodeItem* item);
+
+public slots:
+    void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> data);
+
+private:
+    void initInternal();
+    QVariant toolTip() const;
+    QVariant valueDisplayText() const;
+
+    QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
+    QSharedPointer<ParameterCollection::IParameter> m_node;
+    QSharedPointer<const ParameterCollection::ParameterData> m_parameterData;
+    bool m_textAsUtf8;
+    QString m_translationContext;
+    FeatureTreeHighlighter* m_highlighter = nullptr; // not owned
+    QString m_unit;
+    QString m_descriptionText;
+    QString m_toolTipText;
+    QString m_docuUrl;
+    QString m_displayName;
+    QString m_name;
+};

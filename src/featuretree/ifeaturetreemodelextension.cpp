@@ -1,0 +1,3 @@
+#include "ifeaturetreemodelextension.h"
+
+IFeatureTreeModelExtension::~IFeatureTreeModelExtension() = default;
