@@ -1,6 +1,7 @@
 #include "nodemapname.h"
 
 #include <QStringList>
+#include <QVector>
 
 namespace {
 
@@ -30,9 +31,18 @@ QString GetNodemapName(QString fullName)
 {
     fullName.remove(0, 1);
     const QString part = fullName.split(QLatin1Char('/'), Qt::KeepEmptyParts, Qt::CaseSensitive).first();
-    for (const ContextRow& row : contextTable) {
-        if (part == QLatin1String(row.nodeMapPart))
-            return QLatin1String(row.context);
+    // Every item of a tree stores its context: hand out shared copies of a few
+    // strings instead of a fresh one per item.
+    static const QVector<QString> contexts = [] {
+        QVector<QString> texts;
+        for (const ContextRow& row : contextTable)
+            texts.append(QString::fromLatin1(row.context));
+        texts.append(QStringLiteral("Invalid"));
+        return texts;
+    }();
+    for (int i = 0; i < int(sizeof(contextTable) / sizeof(contextTable[0])); ++i) {
+        if (part == QLatin1String(contextTable[i].nodeMapPart))
+            return contexts.at(i);
     }
-    return QStringLiteral("Invalid");
+    return contexts.last();
 }

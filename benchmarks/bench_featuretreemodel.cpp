@@ -1,0 +1,166 @@
+// The feature tree model on synthetic node maps of 1 000 to 100 000 features,
+// beside a QStandardItemModel that holds the same tree of names and values.
+//
+// For each size: adding the collection, filling the whole tree by walking
+// rowCount, reading Qt::DisplayRole of both columns of every row, heap bytes
+// per built row, and one poll tick on a node map with 1 000 polled features of
+// which 10 change.
+
+#include "benchmarkutil.h"
+
+#include "featuretree/featuretreemodel.h"
+#include "parameters/iadvancedparameteraccess.h"
+#include "simulateddevice.h"
+#include "syntheticnodemapgenerator.h"
+
+#include <QApplication>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QTextStream>
+
+using namespace Simulation;
+using namespace ParameterCollection;
+
+namespace {
+
+const QString nodeMapName = QStringLiteral("@CameraDevice");
+
+QSharedPointer<SimulatedDevice> makeDevice(int featureCount, int polled, int changing)
+{
+    SyntheticNodeMapGenerator::Options options;
+    options.featureCount = featureCount;
+    options.depth = 3;
+    options.fanOut = 10;
+    options.polledCount = polled;
+    options.changingPolledCount = changing;
+    return SimulatedDevice::fromDescription(SyntheticNodeMapGenerator(options).generateDevice());
+}
+
+int walkRowCount(const QAbstractItemModel& model, const QModelIndex& parent)
+{
+    const int rows = model.rowCount(parent);
+    int total = rows;
+    for (int row = 0; row < rows; ++row)
+        total += walkRowCount(model, model.index(row, 0, parent));
+    return total;
+}
+
+int readDisplay(const QAbstractItemModel& model, const QModelIndex& parent)
+{
+    int characters = 0;
+    const int rows = model.rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex name = model.index(row, 0, parent);
+        characters += model.data(name, Qt::DisplayRole).toString().size();
+        characters += model.data(model.index(row, 1, parent), Qt::DisplayRole).toString().size();
+        characters += readDisplay(model, name);
+    }
+    return characters;
+}
+
+// The plain alternative: the same names and value texts copied into standard items.
+void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, const QString& fullName)
+{
+    for (const QString& child : collection.getChildNames(fullName, false, true)) {
+        const QSharedPointer<IParameter> parameter = collection.getParameter(child);
+        if (!parameter || parameter->isZombie())
+            continue;
+        const QSharedPointer<const ParameterData> data = parameter->getParameterData();
+        const QString displayName
+            = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+        auto* nameItem = new QStandardItem(displayName);
+        auto* valueItem = new QStandardItem(data ? data->valueText : QString());
+        parent->appendRow({ nameItem, valueItem });
+        if (parameter->getType() == TypeCategory)
+            fillStandardModel(nameItem, collection, child);
+    }
+}
+
+QString ms(double value)
+{
+    return QString::number(value, 'f', value < 10 ? 2 : 1);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QTextStream out(stdout);
+
+    out << "                                      FeatureTreeModel   QStandardItemModel   ratio\n";
+    for (const int count : { 1000, 10000, 100000 }) {
+        const QSharedPointer<SimulatedDevice> device = makeDevice(count, 0, 0);
+        const QSharedPointer<IParameterCollection> collection = device->nodeMap(nodeMapName);
+
+        // The simulation makes its parameter objects on first look-up: make them
+        // all now, so that neither model is charged for them.
+        {
+            QStandardItemModel warmUp;
+            auto* root = new QStandardItem;
+            warmUp.appendRow(root);
+            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"));
+        }
+
+        // Feature tree model.
+        const qint64 heapBefore = BenchmarkUtil::heapInUse();
+        auto* model = new FeatureTreeModel;
+        const double addMs = BenchmarkUtil::timeMs(
+            [&] { model->addParameterCollection(collection, QStringLiteral("Camera"), nodeMapName, false); });
+        int rows = 0;
+        const double fillMs = BenchmarkUtil::timeMs([&] { rows = walkRowCount(*model, QModelIndex()); });
+        const qint64 heapModel = BenchmarkUtil::heapInUse() - heapBefore;
+        const double readMs = BenchmarkUtil::fastestMs(3, [&] { readDisplay(*model, QModelIndex()); });
+        const double walkMs = BenchmarkUtil::fastestMs(3, [&] { walkRowCount(*model, QModelIndex()); });
+
+        // The same tree in a standard item model, built eagerly.
+        const qint64 heapBeforeStandard = BenchmarkUtil::heapInUse();
+        auto* standard = new QStandardItemModel;
+        const double buildStandardMs = BenchmarkUtil::timeMs([&] {
+            auto* root = new QStandardItem(QStringLiteral("Camera"));
+            standard->appendRow({ root, new QStandardItem });
+            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"));
+        });
+        int standardRows = 0;
+        const double walkStandardMs
+            = BenchmarkUtil::fastestMs(3, [&] { standardRows = walkRowCount(*standard, QModelIndex()); });
+        const qint64 heapStandard = BenchmarkUtil::heapInUse() - heapBeforeStandard;
+        const double readStandardMs = BenchmarkUtil::fastestMs(3, [&] { readDisplay(*standard, QModelIndex()); });
+
+        out << "--- " << count << " features, " << rows << " rows (standard model: " << standardRows << ")\n";
+        out << "add collection (first level) [ms]      " << qSetFieldWidth(16) << ms(addMs) << qSetFieldWidth(0)
+            << '\n';
+        out << "fill whole tree by rowCount [ms]       " << qSetFieldWidth(16) << ms(addMs + fillMs)
+            << qSetFieldWidth(21) << ms(buildStandardMs) << qSetFieldWidth(8)
+            << QString::number((addMs + fillMs) / buildStandardMs, 'f', 2) << qSetFieldWidth(0) << '\n';
+        out << "walk the filled tree [ms]              " << qSetFieldWidth(16) << ms(walkMs) << qSetFieldWidth(21)
+            << ms(walkStandardMs) << qSetFieldWidth(8) << QString::number(walkMs / walkStandardMs, 'f', 2)
+            << qSetFieldWidth(0) << '\n';
+        out << "DisplayRole of both columns [ms]       " << qSetFieldWidth(16) << ms(readMs) << qSetFieldWidth(21)
+            << ms(readStandardMs) << qSetFieldWidth(8) << QString::number(readMs / readStandardMs, 'f', 2)
+            << qSetFieldWidth(0) << '\n';
+        out << "heap bytes per row                     " << qSetFieldWidth(16) << heapModel / qMax(rows, 1)
+            << qSetFieldWidth(21) << heapStandard / qMax(standardRows, 1) << qSetFieldWidth(8)
+            << QString::number(double(heapModel) / qMax<qint64>(heapStandard, 1), 'f', 2) << qSetFieldWidth(0) << '\n';
+        out.flush();
+        delete standard;
+        delete model;
+    }
+
+    // One poll tick: 1 000 polled features, 10 of which change.
+    out << "--- poll tick, 1000 polled features of which 10 change\n";
+    for (const int count : { 1000, 10000, 100000 }) {
+        const QSharedPointer<SimulatedDevice> device = makeDevice(count, 1000, 10);
+        FeatureTreeModel model;
+        model.addParameterCollection(device->nodeMap(nodeMapName), QStringLiteral("Camera"), nodeMapName, false);
+        walkRowCount(model, QModelIndex());
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        const double tickMs = BenchmarkUtil::timeMs([&] {
+            model.onTimerPoll();
+            QCoreApplication::processEvents();
+        });
+        out << count << " features: tick " << ms(tickMs) << " ms, dataChanged signals " << changed.count()
+            << (changed.count() == 20 ? " (as expected)" : " (EXPECTED 20)") << '\n';
+    }
+    return 0;
+}
