@@ -1989,5 +1989,6 @@ void TestNodeMapFilter::refusedVisibilityOnSimulatedCamera()
     verifyMessages();
 }
 
-QTEST_MAIN(TestNodeMapFilter)
+// Filters need no GUI; without one the test also runs clear of the platform plugin.
+QTEST_GUILESS_MAIN(TestNodeMapFilter)
 #include "tst_nodemapfilter.moc"
