@@ -162,6 +162,26 @@ int parameterType(FeatureKind kind)
     return TypeUnknown;
 }
 
+// True while the dispatcher runs one of its own turns on this thread. The
+// state may lose its last reference right there, and then must not delete the
+// dispatcher under its own feet.
+thread_local bool t_inDispatcherTurn = false;
+
+struct DispatcherTurn
+{
+    DispatcherTurn()
+        : m_previous(t_inDispatcherTurn)
+    {
+        t_inDispatcherTurn = true;
+    }
+    ~DispatcherTurn() { t_inDispatcherTurn = m_previous; }
+    DispatcherTurn(const DispatcherTurn&) = delete;
+    DispatcherTurn& operator=(const DispatcherTurn&) = delete;
+
+private:
+    bool m_previous;
+};
+
 bool fitsIncrement(double value, double minimum, double increment)
 {
     if (increment <= 0.0)
@@ -207,7 +227,10 @@ DeviceState::~DeviceState()
     if (!dispatcher)
         return;
     QThread* thread = dispatcher->thread();
-    if (!thread || thread == QThread::currentThread() || !thread->isRunning())
+    const bool here = thread == QThread::currentThread();
+    if (here && t_inDispatcherTurn)
+        dispatcher->deleteLater();
+    else if (!thread || here || !thread->isRunning())
         delete dispatcher;
     else
         dispatcher->deleteLater();
@@ -950,6 +973,7 @@ void DeviceState::scheduleFlushLocked()
     QMetaObject::invokeMethod(
         m_dispatcher,
         [weak] {
+            DispatcherTurn turn;
             if (QSharedPointer<DeviceState> state = weak.toStrongRef())
                 state->flush();
         },
@@ -985,6 +1009,7 @@ void DeviceState::startCommandTimer(int map, int feature, int generation, int du
             timer->setSingleShot(true);
             QObject::connect(timer, &QTimer::timeout, timer, [weak, timer, map, feature, generation] {
                 timer->deleteLater();
+                DispatcherTurn turn;
                 if (QSharedPointer<DeviceState> state = weak.toStrongRef())
                     state->commandFinished(map, feature, generation);
             });
