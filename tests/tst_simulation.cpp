@@ -410,6 +410,66 @@ private slots:
     }
 
     // ---------------------------------------------------------------- operations per kind
+    void everyOperationOnEveryKind_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<bool>("writable");
+        QTest::newRow("integer") << "Width"
+                                 << "800" << true;
+        QTest::newRow("float") << "ExposureTime"
+                               << "250.5" << true;
+        QTest::newRow("alias") << "ExposureTime/Alias"
+                               << "300" << true;
+        QTest::newRow("boolean") << "GammaEnable"
+                                 << "0" << true;
+        QTest::newRow("string") << "DeviceUserID"
+                                << "right" << true;
+        QTest::newRow("enumeration") << "AcquisitionMode"
+                                     << "SingleFrame" << true;
+        QTest::newRow("command") << "AcquisitionStart"
+                                 << "" << true;
+        QTest::newRow("category") << "Analog"
+                                  << "" << false;
+    }
+
+    void everyOperationOnEveryKind()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, written);
+        QFETCH(bool, writable);
+        QSharedPointer<IParameter> p = m_map->getParameter(name);
+        QVERIFY(!p->isZombie());
+        QVERIFY(p->isImposable());
+        QCOMPARE(p->isWritable(), writable);
+        const GenApi::EVisibility described = name == QLatin1String("GammaEnable") ? GenApi::Expert : GenApi::Beginner;
+        QCOMPARE(p->getVisibility(), described);
+        QCOMPARE(p->getName(), name);
+        QCOMPARE(p->getFullName(), kMap + QLatin1Char('/') + name);
+        QSharedPointer<IAdvancedParameterAccess> access = p->advancedAccess();
+        QVERIFY(access);
+        QCOMPARE(access->getProperty(QStringLiteral("Visibility")), Simulation::visibilityName(described));
+        const DataPtr data = p->getParameterData();
+        QVERIFY(data);
+        QCOMPARE(int(data->type), p->getType());
+        QCOMPARE(data->writable, writable);
+        if (!written.isEmpty()) {
+            QSignalSpy spy(p.data(), &IParameter::parameterDataChangedDecoupled);
+            p->setValueFromString(written);
+            QCOMPARE(p->getParameterData()->valueText.left(written.size()), written);
+            QVERIFY(spy.wait(1000));
+            QCOMPARE(spy.count(), 1);
+        }
+        if (auto* command = qobject_cast<ICommandParameter*>(p.data())) {
+            command->setCommandPending(true);
+            command->execute(true);
+            QVERIFY(!p->getParameterData().dynamicCast<const CommandParameterData>()->done);
+            QTRY_VERIFY(p->getParameterData().dynamicCast<const CommandParameterData>()->done);
+        }
+        access->setProperty(QStringLiteral("Visibility"), QStringLiteral("Guru"));
+        QCOMPARE(p->getVisibility(), GenApi::Guru);
+        QCOMPARE(p->getParameterData()->visibility, qint32(GenApi::Guru));
+    }
 
     void integerOperations()
     {
