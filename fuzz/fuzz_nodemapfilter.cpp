@@ -4,11 +4,13 @@
 // would: file choice, screening, parsing and the walk over the items, against
 // a node map that holds every name it is asked for.
 //
-// Names and texts steer the fake node map, so that every branch of an item is
-// reachable: a name starting with "N" is unknown, "Z" a zombie, "I" an
-// imposable zombie, "A" a parameter without advanced access, "E" one whose
-// name can't be fetched; the texts "std", "gen" and "int" make setProperty
-// throw a std::exception, a GenICam::GenericException or an int.
+// The first character of a name or a text steers the fake node map, so that
+// every branch of an item is reachable by a one-byte mutation while the seeds
+// (the shipped filters) take the ordinary path: a name starting with "~" is
+// unknown, "^" a zombie, "+" an imposable zombie, "%" a parameter without
+// advanced access, "=" one whose name can't be fetched; a text starting with
+// "!", "?" or "#" makes setProperty throw a std::exception, a
+// GenICam::GenericException or an int.
 
 #include "featuretree/nodemapfilter.h"
 #include "parameters/genericexception.h"
@@ -37,11 +39,11 @@ public:
     QString getProperty(QString, QString defaultValue) const override { return defaultValue; }
     void setProperty(QString key, QString value) override
     {
-        if (value == QLatin1String("std"))
+        if (value.startsWith(QLatin1Char('!')))
             throw std::runtime_error("refused");
-        if (value == QLatin1String("gen"))
+        if (value.startsWith(QLatin1Char('?')))
             throw GenICam::GenericException("refused", __FILE__, __LINE__);
-        if (value == QLatin1String("int"))
+        if (value.startsWith(QLatin1Char('#')))
             throw 1;
         m_last = key + value;
     }
@@ -56,22 +58,22 @@ public:
     explicit FuzzParameter(const QString& name)
         : m_name(name)
     {
-        if (!name.startsWith(QLatin1Char('A')))
+        if (!name.startsWith(QLatin1Char('%')))
             m_access.reset(new FuzzAccess);
     }
     void setValueFromString(QString) override { }
     bool isZombie() const override
     {
-        return m_name.startsWith(QLatin1Char('Z')) || m_name.startsWith(QLatin1Char('I'));
+        return m_name.startsWith(QLatin1Char('^')) || m_name.startsWith(QLatin1Char('+'));
     }
     bool isWritable() const override { return true; }
-    bool isImposable() const override { return m_name.startsWith(QLatin1Char('I')); }
+    bool isImposable() const override { return m_name.startsWith(QLatin1Char('+')); }
     GenApi::EVisibility getVisibility() const override { return GenApi::Beginner; }
     int getType() const override { return ParameterCollection::TypeInteger; }
     QString getFullName() const override { return m_name; }
     QString getName() const override
     {
-        if (m_name.startsWith(QLatin1Char('E')))
+        if (m_name.startsWith(QLatin1Char('=')))
             throw std::runtime_error("no name");
         return m_name;
     }
@@ -88,7 +90,7 @@ class FuzzCollection : public ParameterCollection::IParameterCollection
 public:
     QSharedPointer<ParameterCollection::IParameter> getParameter(QString fullName) override
     {
-        if (fullName.startsWith(QLatin1Char('N')))
+        if (fullName.startsWith(QLatin1Char('~')))
             return nullptr;
         return QSharedPointer<FuzzParameter>::create(fullName);
     }
