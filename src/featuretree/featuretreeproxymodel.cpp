@@ -1,0 +1,373 @@
+#include "featuretreeproxymodel.h"
+
+#include "favoritesdata.h"
+#include "featuretreeitem.h"
+#include "featuretreemodel.h"
+
+#include <QRegExp>
+
+using namespace ParameterCollection;
+
+FeatureTreeProxyModel::FeatureTreeProxyModel(QObject* parent)
+    : QSortFilterProxyModel(parent)
+{
+}
+
+FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
+
+int FeatureTreeProxyModel::getVisibleMatchCount() const
+{
+    return m_visibleMatches.count();
+}
+
+int FeatureTreeProxyModel::getInvisibleMatchCount() const
+{
+    return m_invisibleMatches.count();
+}
+
+FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel()
+{
+    return qobject_cast<FeatureTreeModel*>(sourceModel());
+}
+
+const FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel() const
+{
+    return qobject_cast<const FeatureTreeModel*>(sourceModel());
+}
+
+// ---- filtering -----------------------------------------------------------
+
+bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
+{
+    const QRegExp pattern = filterRegExp();
+    // A fixed string, as the widget sets it, needs no regular expression machinery.
+    if (pattern.patternSyntax() == QRegExp::FixedString)
+        return text.contains(pattern.pattern(), pattern.caseSensitivity());
+    return pattern.indexIn(text) != -1;
+}
+
+bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIndex& sourceParent) const
+{
+    const QAbstractItemModel* source = sourceModel();
+    if (!source)
+        return false;
+    const QModelIndex index = source->index(sourceRow, 0, sourceParent);
+    if (!index.isValid())
+        return false;
+
+    const QString displayText = source->data(index, Qt::DisplayRole).toString();
+    const QString name = source->data(index, FeatureTreeItem::NodeNameRole).toString();
+    const bool isCategory = source->data(index, FeatureTreeItem::IsCategoryRole).toBool();
+    const int visibility = source->data(index, FeatureTreeItem::VisibilityRole).toInt();
+    const bool showMe = source->data(index, FeatureTreeItem::ShowMeRole).toBool();
+
+    // A node map's root is never a hit and never counted.
+    if (name == QLatin1String("Root"))
+        return false;
+    if (!showMe && m_visibility != GenApi::Invisible)
+        return false;
+    const bool shown = visibility <= m_visibility;
+
+    bool hit = false;
+    if ((matchesFilter(displayText) || matchesFilter(name)) && !isCategory) {
+        if (visibility <= GenApi::Guru && visibility > m_visibility)
+            m_invisibleMatches.insert(name, true);
+        if (visibility <= m_visibility)
+            m_visibleMatches.insert(name, true);
+        hit = true;
+    }
+    // The search help line passes without matching.
+    if (const FeatureTreeModel* model = getFeatureTreeModel()) {
+        const FeatureTreeItem* item = model->getFeatureTreeItem(index);
+        if (item && item->getFullName() == QLatin1String("Search"))
+            hit = true;
+    }
+    return hit && shown;
+}
+
+bool FeatureTreeProxyModel::hasAcceptedChildren(int sourceRow, const QModelIndex& sourceParent, int depth) const
+{
+    const QAbstractItemModel* source = sourceModel();
+    if (!source)
+        return false;
+    const QModelIndex index = source->index(sourceRow, 0, sourceParent);
+    if (!index.isValid())
+        return false;
+    const int rows = source->rowCount(index);
+    if (rows <= 0)
+        return false;
+    // One level is tried whole before any child is descended into.
+    for (int row = 0; row < rows; ++row) {
+        if (filterAcceptsRowItself(row, index))
+            return true;
+    }
+    for (int row = 0; row < rows; ++row) {
+        if (hasAcceptedChildren(row, index, depth + 1))
+            return true;
+    }
+    return false;
+}
+
+bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
+{
+    // Filtering always begins at the first top-level row: a new pass, new counts.
+    if (sourceRow == 0 && !sourceParent.isValid()) {
+        m_visibleMatches.clear();
+        m_invisibleMatches.clear();
+    }
+    if (m_addingCollection)
+        return true;
+    if (filterAcceptsRowItself(sourceRow, sourceParent))
+        return true;
+    // The descendants of a hit stay visible.
+    for (QModelIndex ancestor = sourceParent; ancestor.isValid(); ancestor = ancestor.parent()) {
+        if (filterAcceptsRowItself(ancestor.row(), ancestor.parent()))
+            return true;
+    }
+    return hasAcceptedChildren(sourceRow, sourceParent, 0);
+}
+
+// ---- forwarding to the model ----------------------------------------------
+
+bool FeatureTreeProxyModel::IsFavoriteTreeItem(const FeatureTreeItem* item) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->IsFavoriteTreeItem(item);
+}
+
+bool FeatureTreeProxyModel::IsFavoriteTreeRoot(const FeatureTreeItem* item) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->IsFavoriteTreeRoot(item);
+}
+
+QModelIndex FeatureTreeProxyModel::indexForItem(FeatureTreeItem* item, int column) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? mapFromSource(model->indexForItem(item, column)) : QModelIndex();
+}
+
+QModelIndex FeatureTreeProxyModel::GetFavoritesRootIndex()
+{
+    FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? mapFromSource(model->GetFavoritesRootIndex()) : QModelIndex();
+}
+
+void FeatureTreeProxyModel::EnablePolling(bool on)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->EnablePolling(on);
+}
+
+bool FeatureTreeProxyModel::GetPolling() const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->GetPolling();
+}
+
+void FeatureTreeProxyModel::EnableViewAllFavorites(bool on)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->EnableViewAllFavorites(on);
+}
+
+bool FeatureTreeProxyModel::GetViewAllFavorites() const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->GetViewAllFavorites();
+}
+
+void FeatureTreeProxyModel::SetDeviceAlive(bool alive)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->SetDeviceAlive(alive);
+}
+
+QModelIndex FeatureTreeProxyModel::findItem(const FeatureTreeItem* item, const FeatureTreeItem* start, int column) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? mapFromSource(model->findItem(item, start, column)) : QModelIndex();
+}
+
+QModelIndex FeatureTreeProxyModel::findItemByFullName(const QString& name, FeatureTreeItem* start, int column) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? mapFromSource(model->findItemByFullName(name, start, column)) : QModelIndex();
+}
+
+QModelIndex FeatureTreeProxyModel::findItemByRole(
+    int role, const QVariant& value, FeatureTreeItem* start, int column) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? mapFromSource(model->findItemByRole(role, value, start, column)) : QModelIndex();
+}
+
+void FeatureTreeProxyModel::addParameterCollection(QSharedPointer<IParameterCollection> collection,
+    const QString& displayName, const QString& nodeMapName, bool textAsUtf8)
+{
+    m_addingCollection = true;
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->addParameterCollection(collection, displayName, nodeMapName, textAsUtf8);
+    m_addingCollection = false;
+}
+
+void FeatureTreeProxyModel::rebuildFavoriteItems()
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->rebuildFavoriteItems();
+}
+
+void FeatureTreeProxyModel::CreateFavoritesRoot()
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->CreateFavoritesRoot();
+}
+
+bool FeatureTreeProxyModel::RemoveFavorite(QModelIndex index)
+{
+    FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->RemoveFavorite(mapToSource(index));
+}
+
+bool FeatureTreeProxyModel::AddFavorite(QSharedPointer<IParameter> parameter, int index)
+{
+    FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->AddFavorite(parameter, index);
+}
+
+FavoritesData* FeatureTreeProxyModel::GetFavorites()
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        return model->GetFavorites();
+    // Callers never see null, even before a model is set.
+    static FavoritesData fallback(nullptr);
+    return &fallback;
+}
+
+bool FeatureTreeProxyModel::MoveFavorite(QModelIndex index, bool up)
+{
+    FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->MoveFavorite(mapToSource(index), up);
+}
+
+bool FeatureTreeProxyModel::CanMoveFavorite(QModelIndex index, bool up) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->CanMoveFavorite(mapToSource(index), up);
+}
+
+bool FeatureTreeProxyModel::CanAddAsFavorite(QModelIndex index) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->CanAddAsFavorite(mapToSource(index));
+}
+
+void FeatureTreeProxyModel::refresh()
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->refresh();
+}
+
+void FeatureTreeProxyModel::addChildren(FeatureTreeINodeItem* nodeItem)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->addChildren(nodeItem);
+}
+
+void FeatureTreeProxyModel::setVisibility(GenApi::EVisibility visibility)
+{
+    m_visibility = visibility;
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->setVisibility(visibility);
+}
+
+GenApi::EVisibility FeatureTreeProxyModel::getVisibility() const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? model->getVisibility() : GenApi::Beginner;
+}
+
+void FeatureTreeProxyModel::setMonitorMode(bool on)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->setMonitorMode(on);
+}
+
+void FeatureTreeProxyModel::setGenICamCallbacksEnable(bool on)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->setGenICamCallbacksEnable(on);
+}
+
+bool FeatureTreeProxyModel::getGenICamCallbackEnable() const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model && model->getGenICamCallbackEnable();
+}
+
+FeatureTreeItem* FeatureTreeProxyModel::getFeatureTreeItem(const QModelIndex& index) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? model->getFeatureTreeItem(mapToSource(index)) : nullptr;
+}
+
+void FeatureTreeProxyModel::setHighlighter(FeatureTreeHighlighter* highlighter)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->setHighlighter(highlighter);
+}
+
+FeatureTreeItem* FeatureTreeProxyModel::getSearchHelpItem() const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? model->getSearchHelpItem() : nullptr;
+}
+
+void FeatureTreeProxyModel::refreshSpecialItems()
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->refreshSpecialItems();
+}
+
+void FeatureTreeProxyModel::clear()
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->clear();
+}
+
+void FeatureTreeProxyModel::onNodeUpdated(int row, FeatureTreeINodeItem* nodeItem)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->onNodeUpdated(row, nodeItem);
+}
+
+void FeatureTreeProxyModel::onTimerPoll()
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->onTimerPoll();
+}
+
+QString FeatureTreeProxyModel::GetParameterCollectionName(QSharedPointer<IParameterCollection> collection) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? model->GetParameterCollectionName(collection) : QStringLiteral("unknown NodeMap name");
+}
+
+void FeatureTreeProxyModel::replaceFavoritesZombies(
+    QSharedPointer<IParameterCollection> collection, const QString& nodeMapName)
+{
+    if (FeatureTreeModel* model = getFeatureTreeModel())
+        model->replaceFavoritesZombies(collection, nodeMapName);
+}
+
+int FeatureTreeProxyModel::getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem* item) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? model->getFavoritesIndexFromFeatureTreeItem(item) : -1;
+}
+
+int FeatureTreeProxyModel::getFavoritesIndexFromModelIndex(QModelIndex index) const
+{
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    return model ? model->getFavoritesIndexFromModelIndex(mapToSource(index)) : -1;
+}

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "ifeaturetreemodelextension.h"
+#include "zarvexviewercomponents_export.h"
+
+#include <QHash>
+#include <QSortFilterProxyModel>
+
+class FeatureTreeModel;
+
+/*!
+ * Filters the feature tree by user level and by search text with one rule,
+ * and counts on the way how many features matched and how many of those the
+ * present level withholds. Everything else of IFeatureTreeModelExtension is
+ * passed on to the FeatureTreeModel below, with indexes mapped.
+ *
+ * A row shows when it is a hit that the level shows, when one of its
+ * ancestors is, or when something below it is. Categories are never hits: a
+ * search finds features, and categories show as the path to them. A feature
+ * counts once however many rows show it (tree and favourites, or two node
+ * maps): the counts are keyed by the feature's name.
+ *
+ * The counts are a side effect of filtering and are complete once a whole
+ * filtering pass over the tree has run.
+ */
+class ZVC_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel, public IFeatureTreeModelExtension
+{
+    Q_OBJECT
+
+public:
+    explicit FeatureTreeProxyModel(QObject* parent = nullptr);
+    ~FeatureTreeProxyModel() override;
+
+    using QSortFilterProxyModel::parent;
+
+    int getVisibleMatchCount() const;
+    int getInvisibleMatchCount() const;
+
+    //! The source as a FeatureTreeModel; null if it isn't one.
+    FeatureTreeModel* getFeatureTreeModel();
+    const FeatureTreeModel* getFeatureTreeModel() const;
+
+    // IFeatureTreeModelExtension, forwarded to the source.
+    bool IsFavoriteTreeItem(const FeatureTreeItem* item) const override;
+    bool IsFavoriteTreeRoot(const FeatureTreeItem* item) const override;
+    QModelIndex indexForItem(FeatureTreeItem* item, int column) const override;
+    QModelIndex GetFavoritesRootIndex() override;
+    void EnablePolling(bool on) override;
+    bool GetPolling() const override;
+    void EnableViewAllFavorites(bool on) override;
+    bool GetViewAllFavorites() const override;
+    void SetDeviceAlive(bool alive) override;
+    QModelIndex findItem(const FeatureTreeItem* item, const FeatureTreeItem* start, int column) const override;
+    QModelIndex findItemByFullName(const QString& name, FeatureTreeItem* start, int column) const override;
+    QModelIndex findItemByRole(int role, const QVariant& value, FeatureTreeItem* start, int column) const override;
+    //! Every row passes while the collection is added; the caller invalidates afterwards.
+    void addParameterCollection(QSharedPointer<ParameterCollection::IParameterCollection> collection,
+        const QString& displayName, const QString& nodeMapName, bool textAsUtf8) override;
+    void rebuildFavoriteItems() override;
+    void CreateFavoritesRoot() override;
+    bool RemoveFavorite(QModelIndex index) override;
+    bool AddFavorite(QSharedPointer<ParameterCollection::IParameter> parameter, int index) override;
+    //! The model's store; without a model a store of the proxy's own, never null.
+    FavoritesData* GetFavorites() override;
+    bool MoveFavorite(QModelIndex index, bool up) override;
+    bool CanMoveFavorite(QModelIndex index, bool up) const override;
+    bool CanAddAsFavorite(QModelIndex index) const override;
+    void refresh() override;
+    void addChildren(FeatureTreeINodeItem* nodeItem) override;
+    //! Also judges rows against this level from now on; doesn't invalidate.
+    void setVisibility(GenApi::EVisibility visibility) override;
+    GenApi::EVisibility getVisibility() const override;
+    void setMonitorMode(bool on) override;
+    void setGenICamCallbacksEnable(bool on) override;
+    bool getGenICamCallbackEnable() const override;
+    FeatureTreeItem* getFeatureTreeItem(const QModelIndex& index) const override;
+    void setHighlighter(FeatureTreeHighlighter* highlighter) override;
+    FeatureTreeItem* getSearchHelpItem() const override;
+    void refreshSpecialItems() override;
+    void clear() override;
+    void onNodeUpdated(int row, FeatureTreeINodeItem* nodeItem) override;
+    void onTimerPoll() override;
+    QString GetParameterCollectionName(
+        QSharedPointer<ParameterCollection::IParameterCollection> collection) const override;
+    void replaceFavoritesZombies(
+        QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString& nodeMapName) override;
+    int getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem* item) const override;
+    int getFavoritesIndexFromModelIndex(QModelIndex index) const override;
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
+    //! The row itself is a hit that the level shows; counts it as it goes.
+    bool filterAcceptsRowItself(int sourceRow, const QModelIndex& sourceParent) const;
+    //! A child of the row, or a descendant, passes filterAcceptsRowItself.
+    bool hasAcceptedChildren(int sourceRow, const QModelIndex& sourceParent, int depth) const;
+
+private:
+    bool matchesFilter(const QString& text) const;
+
+    bool m_addingCollection = false;
+    GenApi::EVisibility m_visibility = GenApi::Guru;
+    // Used as sets, keyed by the feature's name; filled during const filtering.
+    mutable QHash<QString, bool> m_visibleMatches;
+    mutable QHash<QString, bool> m_invisibleMatches;
+};
