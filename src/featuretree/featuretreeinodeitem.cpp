@@ -1,5 +1,6 @@
 #include "featuretreeinodeitem.h"
 
+#include "featuretreehighlighter.h"
 #include "ifeaturetreemodelextension.h"
 #include "messages/exceptionlogging.h"
 #include "nodemapname.h"
@@ -197,7 +198,8 @@ QVariant FeatureTreeINodeItem::toolTip() const
             html = QStringLiteral("<nobr><b>%1</b></nobr>").arg(m_displayedName);
         else
             html = QStringLiteral("<nobr><b>%1 (%2)</b></nobr>").arg(m_displayedName, m_name);
-        // Search marks in tool tips come with the highlighter.
+        if (m_highlighter && m_parameterData->type != TypeCategory)
+            html = m_highlighter->highlightText(html);
         if (!text.isEmpty())
             html += QStringLiteral("<br><nobr>%1</nobr>").arg(text);
         return html;
