@@ -346,7 +346,10 @@ void FeatureTreeModel::clear()
 
 QModelIndex FeatureTreeModel::indexForItem(FeatureTreeItem* item, int column) const
 {
-    if (!item)
+    // The invisible root's index is the invalid one, as everywhere in the model.
+    // An index of its own would name row 0 of the top level, and a change or an
+    // insertion announced for the root would land below that row instead.
+    if (!item || item == m_root)
         return QModelIndex();
     return createIndex(item->row(), column, item);
 }
