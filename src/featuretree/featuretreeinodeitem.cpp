@@ -119,7 +119,15 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
         if (column == 0) {
             switch (role) {
             case Qt::DisplayRole:
-                return m_unit.isEmpty() ? m_displayedName : QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+                if (m_unit.isEmpty())
+                    return m_displayedName;
+                // Painting and every search pass ask for this text: build it once
+                // per displayed name instead of on every request.
+                if (m_titleWithUnit.isNull() || m_titleBuiltFrom != m_displayedName) {
+                    m_titleBuiltFrom = m_displayedName;
+                    m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+                }
+                return m_titleWithUnit;
             case Qt::ToolTipRole:
                 return toolTip();
             case Qt::ForegroundRole:

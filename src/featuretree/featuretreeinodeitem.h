@@ -85,4 +85,6 @@ private:
     QString m_docuUrl;
     QString m_displayName;
     QString m_name;
+    mutable QString m_titleWithUnit; // "<displayed name> [<unit>]", built on first request
+    mutable QString m_titleBuiltFrom; // the displayed name it was built from
 };

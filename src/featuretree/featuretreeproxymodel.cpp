@@ -55,21 +55,25 @@ bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIn
     if (!index.isValid())
         return false;
 
-    const QString displayText = source->data(index, Qt::DisplayRole).toString();
-    const QString name = source->data(index, FeatureTreeItem::NodeNameRole).toString();
+    // Categories are never hits: searching finds features, and categories show
+    // only as the path to them. Asked first, so that the many ancestor and
+    // category checks of a pass cost one read each.
     const bool isCategory = source->data(index, FeatureTreeItem::IsCategoryRole).toBool();
-    const int visibility = source->data(index, FeatureTreeItem::VisibilityRole).toInt();
-    const bool showMe = source->data(index, FeatureTreeItem::ShowMeRole).toBool();
+    if (isCategory)
+        return false;
 
+    const QString name = source->data(index, FeatureTreeItem::NodeNameRole).toString();
     // A node map's root is never a hit and never counted.
     if (name == QLatin1String("Root"))
         return false;
+    const bool showMe = source->data(index, FeatureTreeItem::ShowMeRole).toBool();
     if (!showMe && m_visibility != GenApi::Invisible)
         return false;
+    const int visibility = source->data(index, FeatureTreeItem::VisibilityRole).toInt();
     const bool shown = visibility <= m_visibility;
 
     bool hit = false;
-    if ((matchesFilter(displayText) || matchesFilter(name)) && !isCategory) {
+    if (matchesFilter(name) || matchesFilter(source->data(index, Qt::DisplayRole).toString())) {
         if (visibility <= GenApi::Guru && visibility > m_visibility)
             m_invisibleMatches.insert(name, true);
         if (visibility <= m_visibility)
@@ -77,7 +81,9 @@ bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIn
         hit = true;
     }
     // The search help line passes without matching.
-    if (const FeatureTreeModel* model = getFeatureTreeModel()) {
+    // (Its name role is its full name, so only a row named "Search" needs the look.)
+    const FeatureTreeModel* model = getFeatureTreeModel();
+    if (model && name == QLatin1String("Search")) {
         const FeatureTreeItem* item = model->getFeatureTreeItem(index);
         if (item && item->getFullName() == QLatin1String("Search"))
             hit = true;
