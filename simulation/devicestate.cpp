@@ -352,11 +352,9 @@ bool DeviceState::buildNodeMap(const NodeMapDescription& description, QString* e
             return false;
         if (d.poll.mode == PollDescription::Mode::Rate && d.poll.perSecond.isEmpty())
             return fail(i, QStringLiteral("poll.perSecond"), QStringLiteral("missing"));
-        if (!d.value.expression.isEmpty()) {
-            BoundExpression unused;
-            if (!bind(m, i, QStringLiteral("value"), d.value.expression, &unused, error))
-                return false;
-        }
+        if (!d.value.expression.isEmpty()
+            && !bind(m, i, QStringLiteral("value"), d.value.expression, &x.formula, error))
+            return false;
         if (entryConditions) {
             x.entryImplemented.resize(d.entries.size());
             for (int e = 0; e < d.entries.size(); ++e) {
@@ -452,20 +450,20 @@ bool DeviceState::buildNodeMap(const NodeMapDescription& description, QString* e
             }
         }
     }
+    // Formulas may name each other in any order: evaluate them all until
+    // nothing changes (bounded, so that a cycle can't hang the build).
+    QVector<int> formulas;
     for (int i = 0; i < count; ++i) {
-        const FeatureDescription& d = description.features.at(i);
-        if (d.value.expression.isEmpty())
-            continue;
-        BoundExpression bound;
-        bind(m, i, QStringLiteral("value"), d.value.expression, &bound, nullptr);
-        const ExpressionValue v = evaluate(m, bound);
-        Scalar& value = m.features[size_t(i)].value;
-        if (d.kind == FeatureKind::Float)
-            value.f = v.toDouble();
-        else if (d.kind == FeatureKind::Boolean)
-            value.i = v.toBool() ? 1 : 0;
-        else
-            value.i = v.toInteger();
+        const FeatureExtras* x = m.features[size_t(i)].extras.get();
+        if (x && x->formula.isSet())
+            formulas.append(i);
+    }
+    for (int pass = 0; pass <= formulas.size(); ++pass) {
+        bool changed = false;
+        for (int i : qAsConst(formulas))
+            changed = storeValue(m, i, evaluate(m, m.features[size_t(i)].extras->formula)) || changed;
+        if (!changed)
+            break;
     }
     for (int i = 0; i < count; ++i) {
         FeatureExtras* x = m.features[size_t(i)].extras.get();
@@ -916,22 +914,36 @@ void DeviceState::valueChanged(NodeMapState& m, int feature)
 {
     // The feature itself and everything whose expressions or selection name it,
     // directly or through others. Nothing else is looked at.
-    QVector<int> pending { feature };
+    QVector<int> reached { feature };
     QSet<int> seen { feature };
-    while (!pending.isEmpty()) {
-        const int f = pending.takeLast();
+    for (int next = 0; next < reached.size(); ++next) {
+        if (const FeatureExtras* x = m.features[size_t(reached.at(next))].extras.get()) {
+            for (int dependent : x->dependents) {
+                if (!seen.contains(dependent)) {
+                    seen.insert(dependent);
+                    reached.append(dependent);
+                }
+            }
+        }
+    }
+    // Formulas downstream take their new values first, to a fixed point, so
+    // that every snapshot queued below already shows them. The changed feature
+    // itself keeps what was written to it.
+    for (int pass = 0; pass <= reached.size(); ++pass) {
+        bool changed = false;
+        for (int f : qAsConst(reached)) {
+            const FeatureExtras* x = m.features[size_t(f)].extras.get();
+            if (f != feature && x && x->formula.isSet())
+                changed = storeValue(m, f, evaluate(m, x->formula)) || changed;
+        }
+        if (!changed)
+            break;
+    }
+    for (int f : qAsConst(reached)) {
         queueIfChanged(m, f, false);
         const FeatureDescription& d = desc(m, f);
         if (d.kind == FeatureKind::Float && d.alias)
             queueIfChanged(m, f, true);
-        if (const FeatureExtras* x = m.features[size_t(f)].extras.get()) {
-            for (int dependent : x->dependents) {
-                if (!seen.contains(dependent)) {
-                    seen.insert(dependent);
-                    pending.append(dependent);
-                }
-            }
-        }
     }
 }
 
@@ -1584,7 +1596,7 @@ void DeviceState::execute(const FeatureRef& ref, const QString& fullName)
     startCommandTimer(ref.map, ref.feature, generation, desc(m, ref.feature).duration);
 }
 
-void DeviceState::assign(NodeMapState& m, int feature, const ExpressionValue& value)
+bool DeviceState::storeValue(NodeMapState& m, int feature, const ExpressionValue& value)
 {
     const FeatureDescription& d = desc(m, feature);
     Scalar& target = valueRef(m, feature);
@@ -1610,7 +1622,12 @@ void DeviceState::assign(NodeMapState& m, int feature, const ExpressionValue& va
     default:
         break;
     }
-    if (target != before)
+    return target != before;
+}
+
+void DeviceState::assign(NodeMapState& m, int feature, const ExpressionValue& value)
+{
+    if (storeValue(m, feature, value))
         valueChanged(m, feature);
 }
 

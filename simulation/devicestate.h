@@ -113,6 +113,7 @@ private:
     // What only some features need; null for the plain ones, to keep a feature small.
     struct FeatureExtras
     {
+        BoundExpression formula; //!< "value" given as an expression: recomputed when what it names changes
         BoundExpression minimum, maximum, increment;
         BoundExpression readableWhen, writableWhen, implementedWhen;
         BoundExpression pollWhen, pollRate;
@@ -212,6 +213,8 @@ private:
     void writeInteger(NodeMapState& m, int feature, bool alias, qint64 value);
     void writeFloat(NodeMapState& m, int feature, double value);
     void assign(NodeMapState& m, int feature, const ExpressionValue& value);
+    //! Stores a value without announcing it; true if it differs from the one before.
+    bool storeValue(NodeMapState& m, int feature, const ExpressionValue& value);
     bool applyPending(NodeMapState& m, int feature, QVector<int>* changed);
     bool applyPollRule(NodeMapState& m, int feature, qint64 elapsed);
 

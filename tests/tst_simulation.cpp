@@ -1389,6 +1389,53 @@ private slots:
         QCOMPARE(floatValue(spy.at(4).at(0).value<DataPtr>()), 7.0);
     }
 
+    void formulasFollowWhatTheyName()
+    {
+        // Listed against the order of evaluation, and D names both B and C.
+        const QByteArray description
+            = json("{`format`:`zarvex-simulated-device`,`version`:1,`nodeMaps`:[{`name`:`@Cam`,`features`:["
+                   "{`name`:`Root`,`type`:`Category`,`children`:[`A`,`B`,`C`,`D`]},"
+                   "{`name`:`D`,`type`:`Integer`,`access`:`RO`,`value`:`B + C`,`max`:1000},"
+                   "{`name`:`C`,`type`:`Integer`,`access`:`RO`,`value`:`B * 2`,`max`:1000},"
+                   "{`name`:`B`,`type`:`Integer`,`value`:`A + 1`,`max`:1000},"
+                   "{`name`:`A`,`type`:`Integer`,`value`:1,`max`:100}]}]}");
+        QString error;
+        const QSharedPointer<SimulatedDevice> device = SimulatedDevice::fromJson(description, &error);
+        QVERIFY2(device, qPrintable(error));
+        const QSharedPointer<SimulatedNodeMap> map = device->nodeMap(QStringLiteral("@Cam"));
+        const auto value = [&map](const char* name) {
+            return map->getParameter(QLatin1String(name)).dynamicCast<IIntegerParameter>()->getValue();
+        };
+        QCOMPARE(value("B"), qint64(2));
+        QCOMPARE(value("C"), qint64(4));
+        QCOMPARE(value("D"), qint64(6));
+
+        const QSharedPointer<IParameter> a = map->getParameter(QStringLiteral("A"));
+        const QSharedPointer<IParameter> b = map->getParameter(QStringLiteral("B"));
+        const QSharedPointer<IParameter> c = map->getParameter(QStringLiteral("C"));
+        const QSharedPointer<IParameter> d = map->getParameter(QStringLiteral("D"));
+        QSignalSpy bSpy(b.data(), &IParameter::parameterDataChangedDecoupled);
+        QSignalSpy cSpy(c.data(), &IParameter::parameterDataChangedDecoupled);
+        QSignalSpy dSpy(d.data(), &IParameter::parameterDataChangedDecoupled);
+        a->setValueFromString(QStringLiteral("10"));
+        QCOMPARE(value("B"), qint64(11));
+        QCOMPARE(value("C"), qint64(22));
+        QCOMPARE(value("D"), qint64(33));
+        QTRY_COMPARE(dSpy.count(), 1);
+        // Each formula emits once, already with its final value.
+        QCOMPARE(bSpy.count(), 1);
+        QCOMPARE(cSpy.count(), 1);
+        QCOMPARE(intValue(dSpy.at(0).at(0).value<DataPtr>()), qint64(33));
+
+        // A writable formula keeps what is written to it until what it names changes.
+        b->setValueFromString(QStringLiteral("50"));
+        QCOMPARE(value("B"), qint64(50));
+        QCOMPARE(value("C"), qint64(100));
+        a->setValueFromString(QStringLiteral("20"));
+        QCOMPARE(value("B"), qint64(21));
+        QCOMPARE(value("D"), qint64(63));
+    }
+
     // ---------------------------------------------------------------- polling and refreshing
 
     void pollChangesOnlyPolledFeatures()
