@@ -163,6 +163,103 @@ public:
 };
 
 /*!
+ * Collects the reports of QAbstractItemModelTester in Warning mode (category
+ * "qt.modeltest") for as long as it lives, instead of letting them print;
+ * every other message goes on to the handler that was installed before.
+ */
+class ModelTesterReports
+{
+public:
+    ModelTesterReports()
+    {
+        {
+            QMutexLocker lock(&mutex());
+            reports().clear();
+        }
+        m_previous = qInstallMessageHandler(&ModelTesterReports::handler);
+        previousHandler() = m_previous;
+    }
+    ~ModelTesterReports() { qInstallMessageHandler(m_previous); }
+
+    ModelTesterReports(const ModelTesterReports&) = delete;
+    ModelTesterReports& operator=(const ModelTesterReports&) = delete;
+
+    //! Every report so far, excused or not; empties the list.
+    static QStringList takeAll()
+    {
+        QMutexLocker lock(&mutex());
+        QStringList all;
+        all.swap(reports());
+        return all;
+    }
+
+    /*!
+     * Every report so far, empties the list. The tester tells an inconsistent
+     * parent() in several messages, a header and then indented lines: they
+     * come as one report, since they stand or fall together.
+     */
+    static QStringList takeGrouped()
+    {
+        QStringList grouped;
+        for (const QString& report : takeAll()) {
+            if (report.startsWith(QLatin1String("    ")) && !grouped.isEmpty()
+                && grouped.last().startsWith(QLatin1String("Inconsistent parent()")))
+                grouped.last() += QLatin1Char('\n') + report;
+            else
+                grouped << report;
+        }
+        return grouped;
+    }
+
+    //! The reports that excused() doesn't cover; empties the list. ZVC_DUMP_MODELTEST prints every report.
+    template <typename Excused> static QStringList unexcused(Excused excused)
+    {
+        const bool dump = qEnvironmentVariableIsSet("ZVC_DUMP_MODELTEST");
+        QStringList result;
+        for (const QString& report : takeGrouped()) {
+            const bool isExcused = excused(report);
+            if (dump)
+                qInfo("model tester%s: %s", isExcused ? " (excused)" : "", qPrintable(report));
+            if (!isExcused)
+                result << report;
+        }
+        return result;
+    }
+
+private:
+    static void handler(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        if (context.category && qstrcmp(context.category, "qt.modeltest") == 0) {
+            if (type != QtDebugMsg && type != QtInfoMsg) {
+                QMutexLocker lock(&mutex());
+                reports().append(text);
+            }
+            return;
+        }
+        if (QtMessageHandler previous = previousHandler())
+            previous(type, context, text);
+    }
+
+    static QMutex& mutex()
+    {
+        static QMutex m;
+        return m;
+    }
+    static QStringList& reports()
+    {
+        static QStringList r;
+        return r;
+    }
+    static QtMessageHandler& previousHandler()
+    {
+        static QtMessageHandler h = nullptr;
+        return h;
+    }
+
+    QtMessageHandler m_previous = nullptr;
+};
+
+/*!
  * Attaches QAbstractItemModelTester to a model, once directly and once
  * through a ViewLikeProxy. The direct tester stops before its walk of the
  * tree, at the report about the children of column 1; the second walks the whole built tree
@@ -178,12 +275,6 @@ public:
     ModelCheck(QAbstractItemModel* model, QList<Excuse> excuses)
         : m_excuses(std::move(excuses))
     {
-        {
-            QMutexLocker lock(&mutex());
-            reports().clear();
-        }
-        m_previous = qInstallMessageHandler(&ModelCheck::handler);
-        previousHandler() = m_previous;
         m_proxy.setSourceModel(model);
         m_direct.reset(new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Warning));
         m_throughProxy.reset(
@@ -195,7 +286,6 @@ public:
         m_throughProxy.reset();
         m_direct.reset();
         m_proxy.setSourceModel(nullptr);
-        qInstallMessageHandler(m_previous);
     }
 
     ModelCheck(const ModelCheck&) = delete;
@@ -204,41 +294,11 @@ public:
     //! Reports that no excuse covers; empties the list.
     QStringList unexcused()
     {
-        QStringList result;
-        QStringList all;
-        {
-            QMutexLocker lock(&mutex());
-            all.swap(reports());
-        }
-        // The tester tells an inconsistent parent() in several messages: the
-        // header, then indented lines. They stand or fall together.
-        QStringList grouped;
-        for (const QString& report : qAsConst(all)) {
-            if (report.startsWith(QLatin1String("    ")) && !grouped.isEmpty()
-                && grouped.last().startsWith(QLatin1String("Inconsistent parent()")))
-                grouped.last() += QLatin1Char('\n') + report;
-            else
-                grouped << report;
-        }
-        const bool dump = qEnvironmentVariableIsSet("ZVC_DUMP_MODELTEST");
-        for (const QString& report : qAsConst(grouped)) {
-            const bool excused = isExcused(report);
-            if (dump)
-                qInfo("model tester%s: %s", excused ? " (excused)" : "", qPrintable(report));
-            if (!excused)
-                result << report;
-        }
-        return result;
+        return ModelTesterReports::unexcused([this](const QString& report) { return isExcused(report); });
     }
 
     //! Every report so far, excused or not; empties the list.
-    static QStringList takeAll()
-    {
-        QMutexLocker lock(&mutex());
-        QStringList all;
-        all.swap(reports());
-        return all;
-    }
+    static QStringList takeAll() { return ModelTesterReports::takeAll(); }
 
 private:
     bool isExcused(const QString& report) const
@@ -272,37 +332,8 @@ private:
         return false;
     }
 
-    static void handler(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        if (context.category && qstrcmp(context.category, "qt.modeltest") == 0) {
-            if (type != QtDebugMsg && type != QtInfoMsg) {
-                QMutexLocker lock(&mutex());
-                reports().append(text);
-            }
-            return;
-        }
-        if (QtMessageHandler previous = previousHandler())
-            previous(type, context, text);
-    }
-
-    static QMutex& mutex()
-    {
-        static QMutex m;
-        return m;
-    }
-    static QStringList& reports()
-    {
-        static QStringList r;
-        return r;
-    }
-    static QtMessageHandler& previousHandler()
-    {
-        static QtMessageHandler h = nullptr;
-        return h;
-    }
-
+    ModelTesterReports m_reports; // installed before the testers report anything
     QList<Excuse> m_excuses;
-    QtMessageHandler m_previous = nullptr;
     ViewLikeProxy m_proxy;
     std::unique_ptr<QAbstractItemModelTester> m_direct;
     std::unique_ptr<QAbstractItemModelTester> m_throughProxy;

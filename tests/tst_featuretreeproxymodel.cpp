@@ -311,59 +311,22 @@ public:
     explicit ProxyTesterReports(QList<Excuse> excuses)
         : m_excuses(std::move(excuses))
     {
-        {
-            QMutexLocker lock(&mutex());
-            reports().clear();
-        }
-        m_previous = qInstallMessageHandler(&ProxyTesterReports::handler);
-        previous() = m_previous;
     }
-    ~ProxyTesterReports() { qInstallMessageHandler(m_previous); }
-
-    ProxyTesterReports(const ProxyTesterReports&) = delete;
-    ProxyTesterReports& operator=(const ProxyTesterReports&) = delete;
 
     //! Reports not excused; empties the list. ZVC_DUMP_MODELTEST prints every report.
     QStringList unexcused()
     {
-        QStringList all;
-        {
-            QMutexLocker lock(&mutex());
-            all.swap(reports());
-        }
-        const bool dump = qEnvironmentVariableIsSet("ZVC_DUMP_MODELTEST");
-        QStringList result;
-        bool groupExcused = false;
-        for (const QString& report : qAsConst(all)) {
-            bool excused = false;
-            if (report.startsWith(QLatin1String("Inconsistent parent() implementation detected"))) {
-                // Judged by the "index=" line that follows.
-                groupExcused = false;
-                excused = true;
-            } else if (report.startsWith(QLatin1String("    index="))) {
-                groupExcused = isExcusedParent(report);
-                excused = groupExcused;
-            } else if (report.startsWith(QLatin1String("    row="))
-                || report.startsWith(QLatin1String("    data for "))) {
-                excused = groupExcused;
-            } else {
-                excused = isExcused(report);
-            }
-            if (dump)
-                qInfo("model tester%s: %s", excused ? " (excused)" : "", qPrintable(report));
-            if (!excused)
-                result << report;
-        }
-        return result;
+        return TreeTest::ModelTesterReports::unexcused([this](const QString& report) { return isExcused(report); });
     }
 
 private:
     bool has(Excuse excuse) const { return m_excuses.contains(excuse); }
 
-    bool isExcusedParent(const QString&) const { return has(Excuse::ChildrenInEveryColumn); }
-
     bool isExcused(const QString& report) const
     {
+        // An inconsistent parent() comes as one report, its header and the lines that follow.
+        if (report.startsWith(QLatin1String("Inconsistent parent() implementation detected")))
+            return has(Excuse::ChildrenInEveryColumn);
         if (has(Excuse::RootFlags)
             && report.contains(QLatin1String("FAIL! flags == Qt::ItemIsDropEnabled || flags == 0")))
             return true;
@@ -373,36 +336,8 @@ private:
         return false;
     }
 
-    static void handler(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        if (context.category && qstrcmp(context.category, "qt.modeltest") == 0) {
-            if (type != QtDebugMsg && type != QtInfoMsg) {
-                QMutexLocker lock(&mutex());
-                reports().append(text);
-            }
-            return;
-        }
-        if (QtMessageHandler h = previous())
-            h(type, context, text);
-    }
-    static QMutex& mutex()
-    {
-        static QMutex m;
-        return m;
-    }
-    static QStringList& reports()
-    {
-        static QStringList r;
-        return r;
-    }
-    static QtMessageHandler& previous()
-    {
-        static QtMessageHandler h = nullptr;
-        return h;
-    }
-
+    TreeTest::ModelTesterReports m_capture;
     QList<Excuse> m_excuses;
-    QtMessageHandler m_previous = nullptr;
 };
 
 #define VERIFY_NO_TESTER_REPORTS(reports)                                                                              \
