@@ -1,3 +1,5 @@
+#include <featuretree/featuretreemodel.h>
+#include <featuretree/featuretreeproxymodel.h>
 #include <featuretree/nodemapname.h>
 #include <messages/asyncerrorqueue.h>
 #include <parameters/iparametercollection.h>
@@ -11,6 +13,17 @@ int main(int argc, char** argv)
     const QString context = GetNodemapName(QStringLiteral("@CameraDevice/Width"));
     const bool queue = GetTheGlobalAsyncErrorQueue() != nullptr;
     const bool metaObject = ParameterCollection::IParameterCollection::staticMetaObject.className() != nullptr;
-    std::printf("%s %d %d\n", qPrintable(context), queue, metaObject);
-    return (context == QLatin1String("CameraDevice") && queue && metaObject) ? 0 : 1;
+
+    // The model and its search proxy, as the README shows them.
+    FeatureTreeModel model;
+    FeatureTreeProxyModel proxy;
+    proxy.setSourceModel(&model);
+    proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    proxy.setVisibility(GenApi::Expert);
+    model.rebuildFavoriteItems();
+    proxy.invalidate();
+    const bool tree = model.rowCount() == 2 && proxy.GetFavorites() == &FeatureTreeModel::m_favorites;
+
+    std::printf("%s %d %d %d\n", qPrintable(context), queue, metaObject, tree);
+    return (context == QLatin1String("CameraDevice") && queue && metaObject && tree) ? 0 : 1;
 }
