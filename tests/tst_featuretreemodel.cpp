@@ -103,6 +103,10 @@ private slots:
     void categoryOfZombiesKeepsItsExpander();
     void invisibleCategoryIsNeverBuilt();
     void invisibleFeatureIsBuilt();
+    void fillingAfterTheDeviceIsGoneLeavesTheCategoryEmpty();
+    void childThatThrowsIsDroppedAndTheRestBuilt_data();
+    void childThatThrowsIsDroppedAndTheRestBuilt();
+    void rebuildSurvivesANodeMapThatThrows();
 
     void indexParentAndItems();
     void flagsOfIndexes();
@@ -391,6 +395,98 @@ void TestFeatureTreeModel::invisibleFeatureIsBuilt()
     QCOMPARE(secret.siblingAtColumn(1).data().toString(), QStringLiteral("7"));
     // Hiding it is the proxy's business: the item tells it so.
     QCOMPARE(secret.data(FeatureTreeItem::ShowMeRole).toBool(), false);
+}
+
+void TestFeatureTreeModel::fillingAfterTheDeviceIsGoneLeavesTheCategoryEmpty()
+{
+    auto device = makeDevice(smallCamera);
+    QVERIFY(device);
+    FeatureTreeModel model;
+    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
+        QStringLiteral("@CameraDevice"), false);
+    const QModelIndex sub = model.index(5, 0, model.index(0, 0, model.index(0, 0)));
+    QCOMPARE(sub.data(FeatureTreeItem::FullNameRole).toString(), QStringLiteral("@CameraDevice/Sub"));
+    QCOMPARE(itemAt(sub)->builtChildCount(), 0);
+
+    // The view expands a category of a camera that has just gone: rowCount()
+    // must come back, with nothing built and the reason in the log.
+    device->unplug();
+    QSignalSpy inserted(&model, SIGNAL(rowsInserted(QModelIndex, int, int)));
+    QTest::ignoreMessage(QtWarningMsg, "Failed to get the children of a node: @CameraDevice/Sub");
+    QTest::ignoreMessage(QtWarningMsg,
+        QRegularExpression(
+            QStringLiteral("^addChildren :  Exception occurred:\\n The device has been unplugged \\n$")));
+    QCOMPARE(model.rowCount(sub), 0);
+    QCOMPARE(inserted.count(), 0);
+
+    // A fill that failed is not tried again, even with the camera back; the
+    // category keeps its expander.
+    device->replug();
+    QCOMPARE(model.rowCount(sub), 0);
+    QVERIFY(model.hasChildren(sub));
+}
+
+void TestFeatureTreeModel::childThatThrowsIsDroppedAndTheRestBuilt_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("cause");
+    QTest::newRow("GenICam exception") << int(FaultKind::GenICam)
+                                       << QStringLiteral("^addChildren :  Exception occurred:");
+    QTest::newRow("std exception") << int(FaultKind::StdException)
+                                   << QStringLiteral("^addChildren :  Exception occurred:");
+    QTest::newRow("not a std exception") << int(FaultKind::NonStdException)
+                                         << QStringLiteral("^addChildren: Unspecified exception occurred\\.$");
+}
+
+void TestFeatureTreeModel::childThatThrowsIsDroppedAndTheRestBuilt()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, cause);
+    auto device = makeDevice(smallCamera);
+    QVERIFY(device);
+    FeatureTreeModel model;
+    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
+        QStringLiteral("@CameraDevice"), false);
+    const QModelIndex sub = model.index(5, 0, model.index(0, 0, model.index(0, 0)));
+    QCOMPARE(itemAt(sub)->builtChildCount(), 0);
+
+    // The first look-up of the fill throws: that child goes, the next one is built.
+    device->injectFault(QStringLiteral("@CameraDevice"), Operation::GetParameter, FaultKind(kind), 1);
+    QTest::ignoreMessage(QtWarningMsg, "Failed to add the node @CameraDevice/Deep");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(cause));
+    QCOMPARE(model.rowCount(sub), 1);
+    QCOMPARE(model.index(0, 0, sub).data(FeatureTreeItem::NodeNameRole).toString(), QStringLiteral("SubSub"));
+    QCOMPARE(itemAt(model.index(0, 0, sub))->parent(), itemAt(sub));
+}
+
+void TestFeatureTreeModel::rebuildSurvivesANodeMapThatThrows()
+{
+    auto device = makeDevice(smallCamera);
+    QVERIFY(device);
+    FavoritesData* store = &FeatureTreeModel::m_favorites;
+    QVERIFY(store->appendNode({ QStringLiteral("Gain"), QStringLiteral("Gain Raw"), QStringLiteral("@CameraDevice") }));
+    FeatureTreeModel model;
+    model.rebuildFavoriteItems();
+    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
+        QStringLiteral("@CameraDevice"), false);
+    const QModelIndex favorites = model.GetFavoritesRootIndex();
+    QVERIFY(qobject_cast<FeatureTreeINodeItem*>(itemAt(model.index(0, 0, favorites))));
+
+    // The next rebuild meets a node map whose look-ups throw: the favourite
+    // stays a zombie, the rebuild finishes and the search line is still there.
+    device->injectFault(QStringLiteral("@CameraDevice"), Operation::GetParameter, FaultKind::StdException);
+    QTest::ignoreMessage(QtWarningMsg, "Failed to bind the favorites of @CameraDevice");
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression(QStringLiteral("^rebuildFavoriteItems :  Exception occurred:")));
+    model.rebuildFavoriteItems();
+    const QModelIndex favoritesAfter = model.GetFavoritesRootIndex();
+    QCOMPARE(model.rowCount(favoritesAfter), 1);
+    FeatureTreeItem* row = itemAt(model.index(0, 0, favoritesAfter));
+    QVERIFY(row);
+    QVERIFY(!qobject_cast<FeatureTreeINodeItem*>(row));
+    QCOMPARE(row->getDisplayedName(), QStringLiteral("Gain Raw"));
+    QVERIFY(model.getSearchHelpItem());
+    device->clearFaults();
 }
 
 void TestFeatureTreeModel::indexParentAndItems()

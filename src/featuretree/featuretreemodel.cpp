@@ -305,23 +305,37 @@ void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
     const QSharedPointer<IParameterCollection> collection = nodeItem->collection();
     if (!collection)
         return;
-    const QList<QString> names = collection->getChildNames(nodeItem->node()->getFullName(), false, true);
+    // This runs inside rowCount() of a view: nothing may leave it. A node map
+    // that can't list the children leaves the category empty, and the item
+    // doesn't ask again; a child that throws is dropped like a zombie.
+    QList<QString> names;
+    try {
+        names = collection->getChildNames(nodeItem->node()->getFullName(), false, true);
+    } catch (...) {
+        ExceptionLogging::logCurrentException(
+            "addChildren", QStringLiteral("Failed to get the children of a node: %1").arg(nodeItem->getFullName()));
+        return;
+    }
     QList<FeatureTreeINodeItem*> built;
     built.reserve(names.count());
-    for (const QString& name : names) {
-        const QSharedPointer<IParameter> parameter = collection->getParameter(name);
-        if (!parameter || parameter->isZombie())
-            continue;
-        // Invisible categories go with everything below them; features of any
-        // visibility stay and are filtered by the proxy.
-        if (parameter->getType() == TypeCategory && parameter->getVisibility() > GenApi::Guru)
-            continue;
-        auto* item = new FeatureTreeINodeItem(collection, parameter, this, name, nodeItem, m_textAsUtf8);
-        item->setHighlighter(m_highlighter);
-        item->SetIsFullRowItem(false);
-        item->SetIsSpecialNode(false);
-        connectItem(item);
-        built.append(item);
+    for (const QString& name : qAsConst(names)) {
+        try {
+            const QSharedPointer<IParameter> parameter = collection->getParameter(name);
+            if (!parameter || parameter->isZombie())
+                continue;
+            // Invisible categories go with everything below them; features of any
+            // visibility stay and are filtered by the proxy.
+            if (parameter->getType() == TypeCategory && parameter->getVisibility() > GenApi::Guru)
+                continue;
+            auto* item = new FeatureTreeINodeItem(collection, parameter, this, name, nodeItem, m_textAsUtf8);
+            item->setHighlighter(m_highlighter);
+            item->SetIsFullRowItem(false);
+            item->SetIsSpecialNode(false);
+            connectItem(item);
+            built.append(item);
+        } catch (...) {
+            ExceptionLogging::logCurrentException("addChildren", QStringLiteral("Failed to add the node %1").arg(name));
+        }
     }
     if (built.isEmpty())
         return;
@@ -612,9 +626,17 @@ void FeatureTreeModel::rebuildFavoriteItems()
         emit dataChanged(helpIndex, helpIndex);
     }
 
+    // The rebuild runs from the views' slots: a node map that throws leaves its
+    // favourites as zombies instead of taking the rebuild down.
     for (const NodemapListEntry& entry : qAsConst(m_nodemaps)) {
-        if (!entry.name.isEmpty())
+        if (entry.name.isEmpty())
+            continue;
+        try {
             replaceFavoritesZombies(entry.collection, entry.name);
+        } catch (...) {
+            ExceptionLogging::logCurrentException(
+                "rebuildFavoriteItems", QStringLiteral("Failed to bind the favorites of %1").arg(entry.name));
+        }
     }
 
     if (!m_searchHelpItem) {
