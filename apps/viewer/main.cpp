@@ -19,13 +19,12 @@ int main(int argc, char** argv)
     parser.setApplicationDescription(QStringLiteral("Shows the features of a simulated camera."));
     parser.addHelpOption();
     const QCommandLineOption transportOption(QStringLiteral("transport"),
-                                             QStringLiteral("Transport-layer type: GEV, U3V, IIDC, CamEmu, ..."),
-                                             QStringLiteral("type"), QStringLiteral("GEV"));
-    const QCommandLineOption deviceOption(QStringLiteral("device"),
-                                          QStringLiteral("A device description of your own (JSON)."),
-                                          QStringLiteral("file"));
+        QStringLiteral("Transport-layer type: GEV, U3V, IIDC, CamEmu, ..."), QStringLiteral("type"),
+        QStringLiteral("GEV"));
+    const QCommandLineOption deviceOption(
+        QStringLiteral("device"), QStringLiteral("A device description of your own (JSON)."), QStringLiteral("file"));
     const QCommandLineOption depthOption(QStringLiteral("depth"), QStringLiteral("Deepest level printed."),
-                                         QStringLiteral("levels"), QStringLiteral("100"));
+        QStringLiteral("levels"), QStringLiteral("100"));
     parser.addOption(transportOption);
     parser.addOption(deviceOption);
     parser.addOption(depthOption);
@@ -37,8 +36,8 @@ int main(int argc, char** argv)
     QSharedPointer<Simulation::SimulatedDevice> device;
     if (parser.isSet(deviceOption)) {
         QString error;
-        device = Simulation::SimulatedDevice::fromFile(parser.value(deviceOption), &error,
-                                                       parser.value(transportOption));
+        device
+            = Simulation::SimulatedDevice::fromFile(parser.value(deviceOption), &error, parser.value(transportOption));
         if (!device) {
             err << "zarvex-viewer: " << error << '\n';
             return 1;
