@@ -47,6 +47,13 @@ inline QSharedPointer<Simulation::SimulatedDevice> makeDevice(const QByteArray& 
     return device;
 }
 
+//! Adds the device's "@CameraDevice" node map to a model (or proxy), shown as "Camera".
+template <typename Model> inline void addCamera(Model& model, const QSharedPointer<Simulation::SimulatedDevice>& device)
+{
+    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
+        QStringLiteral("@CameraDevice"), false);
+}
+
 //! The item behind a model index.
 inline FeatureTreeItem* itemAt(const QModelIndex& index)
 {

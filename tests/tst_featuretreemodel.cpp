@@ -286,8 +286,7 @@ void TestFeatureTreeModel::addParameterCollectionFailure()
         QRegularExpression(QStringLiteral("^Critical message: addParameterCollection : %1 : "
                                           "Failed to get the node 'Root' from the node map : ")
                                .arg(QRegularExpression::escape(severityTitle))));
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     QCOMPARE(errors.settle(), messages);
     QCOMPARE(errors.text(0), QStringLiteral("Failed to get the node 'Root' from the node map"));
     QCOMPARE(errors.severity(0), int(AsyncErrorQueue::Critical));
@@ -301,8 +300,7 @@ void TestFeatureTreeModel::categoriesFillOneLevelWhenAsked()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex top = model.index(0, 0);
     const QModelIndex basics = model.index(0, 0, top);
     QCOMPARE(basics.data(FeatureTreeItem::FullNameRole).toString(), QStringLiteral("@CameraDevice/Basics"));
@@ -356,8 +354,7 @@ void TestFeatureTreeModel::categoryOfZombiesKeepsItsExpander()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex ghosts = childByFullName(model, model.index(0, 0), QStringLiteral("@CameraDevice/Ghosts"));
     QVERIFY(ghosts.isValid());
     QVERIFY(model.hasChildren(ghosts));
@@ -374,8 +371,7 @@ void TestFeatureTreeModel::invisibleCategoryIsNeverBuilt()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     model.setVisibility(GenApi::Invisible);
     QVERIFY(!childByFullName(model, model.index(0, 0), QStringLiteral("@CameraDevice/Hidden")).isValid());
     QVERIFY(!model.findItemByFullName(QStringLiteral("@CameraDevice/Hidden"), nullptr, 0).isValid());
@@ -387,8 +383,7 @@ void TestFeatureTreeModel::invisibleFeatureIsBuilt()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex secret = childByFullName(model, model.index(0, 0), QStringLiteral("@CameraDevice/SecretValue"));
     QVERIFY(secret.isValid());
     QCOMPARE(secret.data(FeatureTreeItem::VisibilityRole).toInt(), int(GenApi::Invisible));
@@ -402,8 +397,7 @@ void TestFeatureTreeModel::fillingAfterTheDeviceIsGoneLeavesTheCategoryEmpty()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex sub = model.index(5, 0, model.index(0, 0, model.index(0, 0)));
     QCOMPARE(sub.data(FeatureTreeItem::FullNameRole).toString(), QStringLiteral("@CameraDevice/Sub"));
     QCOMPARE(itemAt(sub)->builtChildCount(), 0);
@@ -445,8 +439,7 @@ void TestFeatureTreeModel::childThatThrowsIsDroppedAndTheRestBuilt()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex sub = model.index(5, 0, model.index(0, 0, model.index(0, 0)));
     QCOMPARE(itemAt(sub)->builtChildCount(), 0);
 
@@ -467,8 +460,7 @@ void TestFeatureTreeModel::rebuildSurvivesANodeMapThatThrows()
     QVERIFY(store->appendNode({ QStringLiteral("Gain"), QStringLiteral("Gain Raw"), QStringLiteral("@CameraDevice") }));
     FeatureTreeModel model;
     model.rebuildFavoriteItems();
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex favorites = model.GetFavoritesRootIndex();
     QVERIFY(qobject_cast<FeatureTreeINodeItem*>(itemAt(model.index(0, 0, favorites))));
 
@@ -494,8 +486,7 @@ void TestFeatureTreeModel::indexParentAndItems()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex top = model.index(0, 0);
     QVERIFY(top.isValid());
     QVERIFY(!model.parent(top).isValid());
@@ -523,8 +514,7 @@ void TestFeatureTreeModel::flagsOfIndexes()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     QCOMPARE(model.flags(QModelIndex()), Qt::ItemFlags(Qt::ItemIsEnabled));
     const QModelIndex basics = model.index(0, 0, model.index(0, 0));
     QVERIFY(model.rowCount(basics) > 0);
@@ -539,8 +529,7 @@ void TestFeatureTreeModel::findersDoNotFetch()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     // Deep lives below Sub, which isn't filled yet.
     QVERIFY(!model.findItemByFullName(QStringLiteral("@CameraDevice/Deep"), nullptr, 0).isValid());
     QVERIFY(!model.findItemByRole(FeatureTreeItem::NodeNameRole, QStringLiteral("Deep"), nullptr, 0).isValid());
@@ -571,8 +560,7 @@ void TestFeatureTreeModel::setDataWritesAndEmitsNothing()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex basics = model.index(0, 0, model.index(0, 0));
     QVERIFY(model.rowCount(basics) > 0);
     const QModelIndex gainValue = model.index(0, 1, basics);
@@ -594,8 +582,7 @@ void TestFeatureTreeModel::setDataWithTheShownValueWritesNothing()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex basics = model.index(0, 0, model.index(0, 0));
     QVERIFY(model.rowCount(basics) > 0);
     const QModelIndex gainValue = model.index(0, 1, basics);
@@ -631,8 +618,7 @@ void TestFeatureTreeModel::setDataRefuses()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex basics = model.index(0, 0, model.index(0, 0));
     QVERIFY(model.rowCount(basics) > 0);
     const QModelIndex index = validIndex ? model.index(0, column, basics) : QModelIndex();
@@ -649,8 +635,7 @@ void TestFeatureTreeModel::setDataWithDeviceGoneShowsNothing()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex basics = model.index(0, 0, model.index(0, 0));
     QVERIFY(model.rowCount(basics) > 0);
     const QModelIndex gainValue = model.index(0, 1, basics);
@@ -696,8 +681,7 @@ void TestFeatureTreeModel::setDataFailure()
     auto device = makeDevice(smallCamera);
     QVERIFY(device);
     FeatureTreeModel model;
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     const QModelIndex basics = model.index(0, 0, model.index(0, 0));
     QVERIFY(model.rowCount(basics) > 0);
     const QModelIndex gainValue = model.index(0, 1, basics);
@@ -837,8 +821,7 @@ void TestFeatureTreeModel::modelTesterWhileAddingFillingAndClearing()
     FeatureTreeModel model;
     ModelCheck check(&model, { Excuse::ChildrenInEveryColumn, Excuse::RootFlags });
 
-    model.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
-        QStringLiteral("@CameraDevice"), false);
+    addCamera(model, device);
     VERIFY_MODEL_CHECK(check);
     const QModelIndex top = model.index(0, 0);
     const QModelIndex basics = model.index(0, 0, top);
