@@ -47,6 +47,14 @@ struct Window
         layout->addWidget(buttons);
         dialog.resize(400, 120);
     }
+
+    //! Sets range, step and value, then shows the dialog active.
+    bool showWith(int minimum, int maximum, int step, int value)
+    {
+        combo->setRangeAndStep(minimum, maximum, step);
+        combo->setValue(value);
+        return showActive(&dialog);
+    }
 };
 
 class TestComboSlider : public QObject
@@ -214,9 +222,7 @@ void TestComboSlider::dragEmitsOnlyGridValues()
 
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(minimum, maximum, step);
-    combo.setValue(minimum);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(minimum, maximum, step, minimum));
 
     // A plain slider of the same geometry and range takes the same gesture and
     // tells which raw value the pointer ended on.
@@ -258,15 +264,12 @@ void TestComboSlider::typedValueIsSnappedWhenLeavingTheBox()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(0, 100, 5);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 5, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
     combo.theSpinBox()->setFocus();
     QVERIFY(combo.theSpinBox()->hasFocus());
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("37"));
+    retype(combo.theSpinBox(), QStringLiteral("37"));
     QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("37"));
     QCOMPARE(spy.count(), 0); // typing alone commits nothing
 
@@ -281,16 +284,12 @@ void TestComboSlider::finishingAnEditWithoutChangeEmitsNothing()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(0, 100, 5);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 5, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
     combo.theSpinBox()->setFocus();
     window.other->setFocus();
-    combo.theSpinBox()->setFocus();
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("52")); // snaps back onto 50
+    retype(combo.theSpinBox(), QStringLiteral("52")); // snaps back onto 50
     window.other->setFocus();
     QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("50"));
     QCOMPARE(spy.count(), 0);
@@ -300,15 +299,11 @@ void TestComboSlider::escapeUndoesTheEditAndStaysInside()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRange(0, 100);
-    combo.setValue(42);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 1, 42));
     QSignalSpy rejected(&window.dialog, SIGNAL(rejected()));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
-    combo.theSpinBox()->setFocus();
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("77"));
+    retype(combo.theSpinBox(), QStringLiteral("77"));
     QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("77"));
 
     QTest::keyClick(combo.theSpinBox(), Qt::Key_Escape);
@@ -326,15 +321,11 @@ void TestComboSlider::returnCommitsAndStaysInside()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRange(0, 100);
-    combo.setValue(42);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 1, 42));
     QSignalSpy accepted(&window.dialog, SIGNAL(accepted()));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
-    combo.theSpinBox()->setFocus();
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("64"));
+    retype(combo.theSpinBox(), QStringLiteral("64"));
     QTest::keyClick(combo.theSpinBox(), Qt::Key_Return);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).at(0).toInt(), 64);
@@ -395,9 +386,7 @@ void TestComboSlider::wheelStepReachesTheSliderAtOnce()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(0, 100, 2);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 2, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
     combo.theSpinBox()->setFocus();
@@ -413,9 +402,7 @@ void TestComboSlider::enableUpdateSilencesUserChanges()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRange(0, 100);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 1, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
     combo.theSpinBox()->setFocus();
 

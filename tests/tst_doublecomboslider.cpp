@@ -40,6 +40,17 @@ struct Window
         layout->addWidget(other);
         window.resize(400, 80);
     }
+
+    //! Box 0..100 at 50, slider 0..1000 at 500 with the increment; shown active with the focus in the box.
+    bool focusBoxAt50(int increment)
+    {
+        combo->initControls(0.0, 100.0, 500, 0, 1000, increment);
+        combo->setValue(50.0);
+        if (!showActive(&window))
+            return false;
+        combo->theSpinBox()->setFocus();
+        return combo->theSpinBox()->hasFocus();
+    }
 };
 
 class TestDoubleComboSlider : public QObject
@@ -151,11 +162,7 @@ void TestDoubleComboSlider::cursorKeysStepByTheIncrement()
 
     Window window;
     DoubleComboSliderProbe& combo = *window.combo;
-    combo.initControls(0.0, 100.0, 500, 0, 1000, increment);
-    combo.setValue(50.0);
-    QVERIFY(showActive(&window.window));
-
-    combo.theSpinBox()->setFocus();
+    QVERIFY(window.focusBoxAt50(increment));
     QTest::keyClick(combo.theSpinBox(), Qt::Key(key));
     QCOMPARE(combo.intValue(), expected);
     QCOMPARE(combo.value(), 50.0); // the box is left to the derived class
@@ -165,11 +172,7 @@ void TestDoubleComboSlider::wheelMovesOnlyTheSlider()
 {
     Window window;
     DoubleComboSliderProbe& combo = *window.combo;
-    combo.initControls(0.0, 100.0, 500, 0, 1000, 3);
-    combo.setValue(50.0);
-    QVERIFY(showActive(&window.window));
-
-    combo.theSpinBox()->setFocus();
+    QVERIFY(window.focusBoxAt50(3));
     wheel(combo.theSpinBox(), 1);
     QCOMPARE(combo.intValue(), 503);
     wheel(combo.theSpinBox(), -2);
@@ -343,11 +346,7 @@ void TestDoubleComboSlider::focusAndStepsDriveUpdateEnabled()
 {
     Window window;
     DoubleComboSliderProbe& combo = *window.combo;
-    combo.initControls(0.0, 100.0, 500, 0, 1000, 1);
-    combo.setValue(50.0);
-    QVERIFY(showActive(&window.window));
-
-    combo.theSpinBox()->setFocus();
+    QVERIFY(window.focusBoxAt50(1));
     QVERIFY(combo.boxHasFocus());
     QVERIFY(!combo.isUpdateEnabled());
     QTest::keyClick(combo.theSpinBox(), Qt::Key_Up);

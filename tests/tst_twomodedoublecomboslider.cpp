@@ -413,9 +413,7 @@ void TestTwoModeDoubleComboSlider::editingFinishedIsForwarded()
     QVERIFY(showActive(&window.window));
     QSignalSpy spy(&combo, SIGNAL(editingFinished()));
 
-    combo.theSpinBox()->setFocus();
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("12.5"));
+    retype(combo.theSpinBox(), QStringLiteral("12.5"));
     QTest::keyClick(combo.theSpinBox(), Qt::Key_Return);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(combo.value(), 12.5);
