@@ -1,4 +1,5 @@
 #include "featuretree/comboslider.h"
+#include "featuretree/sliderspanguard.h"
 #include "featuretree/zarvexqtspinbox.h"
 #include "valuewidgettestsupport.h"
 
@@ -85,6 +86,8 @@ private slots:
     void toolTip();
     void propertiesReadTheSlider();
     void wholeIntRangeSnapsDown();
+    void survivesRangesQtCannotPaint_data();
+    void survivesRangesQtCannotPaint();
 };
 
 void TestComboSlider::initialState()
@@ -556,6 +559,52 @@ void TestComboSlider::wholeIntRangeSnapsDown()
     QCOMPARE(combo.value(), highest - 1);
     combo.setValue(lowest + 3);
     QCOMPARE(combo.value(), lowest + 2);
+}
+
+void TestComboSlider::survivesRangesQtCannotPaint_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<bool>("guarded");
+
+    const int lowest = std::numeric_limits<int>::min();
+    const int highest = std::numeric_limits<int>::max();
+    QTest::newRow("-2^31..0") << lowest << 0 << true;
+    QTest::newRow("-1..2^31-1") << -1 << highest << true;
+    QTest::newRow("-2^30..2^30") << -(1 << 30) << (1 << 30) << true;
+    QTest::newRow("whole int range") << lowest << highest << false;
+    QTest::newRow("-2^31..1") << lowest << 1 << false;
+    QTest::newRow("0..100") << 0 << 100 << false;
+}
+
+void TestComboSlider::survivesRangesQtCannotPaint()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(bool, guarded);
+
+    Window window;
+    ComboSliderProbe& combo = *window.combo;
+    QVERIFY(window.showWith(minimum, maximum, 1, minimum));
+    auto* guard = combo.theSlider()->findChild<SliderSpanGuard*>();
+    QVERIFY(guard);
+    QCOMPARE(guard->isGuarding(), guarded);
+
+    // Painting, hovering and dragging all go through the slider's geometry.
+    QVERIFY(!window.dialog.grab().isNull());
+    QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
+    const int start = handleCentre(combo.theSlider()).x();
+    dragHandle(combo.theSlider(), { start + 10, start + 40, start + 80 });
+    QVERIFY(combo.value() > minimum);
+    QVERIFY(!spy.isEmpty());
+    QCOMPARE(spy.last().at(0).toInt(), combo.value());
+    QVERIFY(!window.dialog.grab().isNull());
+
+    // With an ordinary range the slider is back on the application's style.
+    combo.setRange(0, 100);
+    QVERIFY(!guard->isGuarding());
+    QCOMPARE(combo.theSlider()->style(), QApplication::style());
+    QVERIFY(!window.dialog.grab().isNull());
 }
 
 QTEST_MAIN(TestComboSlider)

@@ -77,6 +77,7 @@ private slots:
     void trimSliderValue();
     void focusAndStepsDriveUpdateEnabled();
     void properties();
+    void survivesRangesQtCannotPaint();
 };
 
 void TestDoubleComboSlider::initialState()
@@ -381,6 +382,23 @@ void TestDoubleComboSlider::properties()
     QCOMPARE(combo.property("intIncrement").toInt(), 4);
     QCOMPARE(combo.property("editBoxWidth").toInt(), 111);
     QCOMPARE(combo.theSpinBox()->minimumWidth(), 111);
+}
+
+void TestDoubleComboSlider::survivesRangesQtCannotPaint()
+{
+    Window window;
+    DoubleComboSliderProbe& combo = *window.combo;
+    combo.initControls(0.0, 1.0, 0, std::numeric_limits<int>::min(), 0, 1);
+    combo.setIntValue(std::numeric_limits<int>::min());
+    QVERIFY(showActive(&window.window));
+    QVERIFY(!window.window.grab().isNull());
+    const int start = handleCentre(combo.theSlider()).x();
+    dragHandle(combo.theSlider(), { start + 30, start + 60 });
+    QVERIFY(combo.intValue() > std::numeric_limits<int>::min());
+
+    combo.setIntMinimum(-1);
+    combo.setIntMaximum(std::numeric_limits<int>::max());
+    QVERIFY(!window.window.grab().isNull());
 }
 
 QTEST_MAIN(TestDoubleComboSlider)
