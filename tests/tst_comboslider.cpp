@@ -559,6 +559,14 @@ void TestComboSlider::wholeIntRangeSnapsDown()
     QCOMPARE(combo.value(), highest - 1);
     combo.setValue(lowest + 3);
     QCOMPARE(combo.value(), lowest + 2);
+
+    // Every value of the range reads without group separators, the lowest one included.
+    combo.setValue(lowest);
+    QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("-2147483648"));
+    combo.setValue(highest);
+    QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("2147483646"));
+    combo.theSpinBox()->setGroupSeparatorShown(true);
+    QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("2,147,483,646"));
 }
 
 void TestComboSlider::survivesRangesQtCannotPaint_data()
