@@ -64,9 +64,11 @@ AravisDevice::~AravisDevice()
         g_object_unref(m_device);
 }
 
-QList<DeviceInfo> AravisDevice::listDevices()
+namespace {
+
+// The devices of Aravis's last look-up, without looking again.
+QList<DeviceInfo> knownDevices()
 {
-    arv_update_device_list();
     QList<DeviceInfo> devices;
     const unsigned int count = arv_get_n_devices();
     for (unsigned int i = 0; i < count; ++i) {
@@ -83,26 +85,55 @@ QList<DeviceInfo> AravisDevice::listDevices()
     return devices;
 }
 
+const DeviceInfo* findDevice(const QList<DeviceInfo>& devices, const QString& id)
+{
+    for (const DeviceInfo& info : devices)
+        if (id.isEmpty() || info.id == id)
+            return &info;
+    return nullptr;
+}
+
+} // namespace
+
+QList<DeviceInfo> AravisDevice::listDevices()
+{
+    arv_update_device_list();
+    return knownDevices();
+}
+
 QSharedPointer<AravisDevice> AravisDevice::open(const QString& id, QString* error)
 {
     QString ignored;
     QString& message = error ? *error : ignored;
-    const QList<DeviceInfo> devices = listDevices();
-    QString protocol;
-    QString chosen = id;
-    for (const DeviceInfo& info : devices) {
-        if (id.isEmpty() || info.id == id) {
-            chosen = info.id;
-            protocol = info.protocol;
-            break;
-        }
+    // A camera found by the last look-up is opened without looking again (a
+    // GigE Vision look-up waits a second for answers).
+    QList<DeviceInfo> devices = knownDevices();
+    bool fresh = false;
+    const DeviceInfo* found = findDevice(devices, id);
+    if (!found) {
+        devices = listDevices();
+        fresh = true;
+        found = findDevice(devices, id);
     }
-    if (chosen.isEmpty()) {
-        message = QStringLiteral("Aravis found no camera");
+    if (!found) {
+        message = id.isEmpty() ? QStringLiteral("Aravis found no camera")
+                               : QStringLiteral("Aravis found no camera %1").arg(id);
         return {};
     }
+    QString chosen = found->id;
+    QString protocol = found->protocol;
     GError* gerror = nullptr;
     ArvDevice* device = arv_open_device(chosen.toUtf8().constData(), &gerror);
+    if (!device && !fresh) {
+        // The last look-up may be stale: look again before giving up.
+        g_clear_error(&gerror);
+        devices = listDevices();
+        if ((found = findDevice(devices, id))) {
+            chosen = found->id;
+            protocol = found->protocol;
+            device = arv_open_device(chosen.toUtf8().constData(), &gerror);
+        }
+    }
     if (!device) {
         message = gerror ? QString::fromUtf8(gerror->message) : QStringLiteral("Aravis could not open %1").arg(chosen);
         if (gerror)
