@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 using namespace ParameterCollection;
 
@@ -146,6 +147,55 @@ template <typename T, typename D> T rangeOrDefault(T value, GError** error, D fa
     }
     return value;
 }
+
+// Integer and float nodes through one interface; a range the document doesn't give is the type's whole range.
+template <typename T> struct Numeric;
+
+template <> struct Numeric<qint64>
+{
+    static qint64 value(void* node, GError** error) { return arv_gc_integer_get_value(ARV_GC_INTEGER(node), error); }
+    static qint64 minimum(void* node, GError** error)
+    {
+        return rangeOrDefault(
+            arv_gc_integer_get_min(ARV_GC_INTEGER(node), error), error, std::numeric_limits<qint64>::min());
+    }
+    static qint64 maximum(void* node, GError** error)
+    {
+        return rangeOrDefault(
+            arv_gc_integer_get_max(ARV_GC_INTEGER(node), error), error, std::numeric_limits<qint64>::max());
+    }
+    static qint64 increment(void* node, GError** error)
+    {
+        return rangeOrDefault(arv_gc_integer_get_inc(ARV_GC_INTEGER(node), error), error, qint64(1));
+    }
+    static void set(void* node, qint64 value, GError** error)
+    {
+        arv_gc_integer_set_value(ARV_GC_INTEGER(node), value, error);
+    }
+};
+
+template <> struct Numeric<double>
+{
+    static double value(void* node, GError** error) { return arv_gc_float_get_value(ARV_GC_FLOAT(node), error); }
+    static double minimum(void* node, GError** error)
+    {
+        return rangeOrDefault(
+            arv_gc_float_get_min(ARV_GC_FLOAT(node), error), error, -std::numeric_limits<double>::max());
+    }
+    static double maximum(void* node, GError** error)
+    {
+        return rangeOrDefault(
+            arv_gc_float_get_max(ARV_GC_FLOAT(node), error), error, std::numeric_limits<double>::max());
+    }
+    static double increment(void* node, GError** error)
+    {
+        return rangeOrDefault(arv_gc_float_get_inc(ARV_GC_FLOAT(node), error), error, 0.0);
+    }
+    static void set(void* node, double value, GError** error)
+    {
+        arv_gc_float_set_value(ARV_GC_FLOAT(node), value, error);
+    }
+};
 
 void onControlLost(ArvDevice*, gpointer state)
 {
@@ -459,13 +509,11 @@ QSharedPointer<const ParameterData> NodeMapState::readSnapshot(const Entry& entr
         ArvGcInteger* gcInteger = ARV_GC_INTEGER(node);
         integer->representation = representationText(arv_gc_integer_get_representation(gcInteger));
         if (state.implemented) {
-            integer->minimum
-                = rangeOrDefault(arv_gc_integer_get_min(gcInteger, &error), &error, std::numeric_limits<qint64>::min());
+            integer->minimum = Numeric<qint64>::minimum(node, &error);
             checkError(error, entry);
-            integer->maximum
-                = rangeOrDefault(arv_gc_integer_get_max(gcInteger, &error), &error, std::numeric_limits<qint64>::max());
+            integer->maximum = Numeric<qint64>::maximum(node, &error);
             checkError(error, entry);
-            integer->increment = rangeOrDefault(arv_gc_integer_get_inc(gcInteger, &error), &error, qint64(1));
+            integer->increment = Numeric<qint64>::increment(node, &error);
             checkError(error, entry);
         }
         if (state.readable) {
@@ -481,15 +529,13 @@ QSharedPointer<const ParameterData> NodeMapState::readSnapshot(const Entry& entr
         ArvGcFloat* gcFloat = ARV_GC_FLOAT(node);
         floating->precision = arv_gc_float_get_display_precision(gcFloat);
         if (state.implemented) {
-            floating->minimum
-                = rangeOrDefault(arv_gc_float_get_min(gcFloat, &error), &error, -std::numeric_limits<double>::max());
+            floating->minimum = Numeric<double>::minimum(node, &error);
             checkError(error, entry);
-            floating->maximum
-                = rangeOrDefault(arv_gc_float_get_max(gcFloat, &error), &error, std::numeric_limits<double>::max());
+            floating->maximum = Numeric<double>::maximum(node, &error);
             checkError(error, entry);
             floating->hasIncrement = m_index.node(QString::fromUtf8(entry.node)).hasIncrement;
             if (floating->hasIncrement) {
-                floating->increment = rangeOrDefault(arv_gc_float_get_inc(gcFloat, &error), &error, 0.0);
+                floating->increment = Numeric<double>::increment(node, &error);
                 checkError(error, entry);
             }
         }
@@ -650,80 +696,64 @@ void NodeMapState::setValueFromString(int index, const QString& fullName, const 
     afterWrite(index);
 }
 
-qint64 NodeMapState::integerValue(int index, const QString& fullName, int which)
+template <typename T> T NodeMapState::numericValue(int index, const QString& fullName, int which)
 {
     const Entry& entry = live(index, fullName);
-    auto* node = ARV_GC_INTEGER(arvNode(entry));
+    void* node = arvNode(entry);
     GError* error = nullptr;
-    const qint64 value = which == Minimum
-        ? rangeOrDefault(arv_gc_integer_get_min(node, &error), &error, std::numeric_limits<qint64>::min())
-        : which == Maximum
-        ? rangeOrDefault(arv_gc_integer_get_max(node, &error), &error, std::numeric_limits<qint64>::max())
-        : arv_gc_integer_get_value(node, &error);
+    const T value = which == Minimum ? Numeric<T>::minimum(node, &error)
+        : which == Maximum           ? Numeric<T>::maximum(node, &error)
+                                     : Numeric<T>::value(node, &error);
     checkError(error, entry);
     return value;
+}
+
+template <typename T> void NodeMapState::setNumeric(int index, const QString& fullName, T value)
+{
+    const Entry& entry = live(index, fullName);
+    checkWritable(entry);
+    void* node = arvNode(entry);
+    GError* error = nullptr;
+    const T minimum = Numeric<T>::minimum(node, &error);
+    checkError(error, entry);
+    const T maximum = Numeric<T>::maximum(node, &error);
+    checkError(error, entry);
+    if (!(value >= minimum && value <= maximum)) // NaN too
+        throwInvalidArgument(
+            QStringLiteral("%1: %2 is outside %3 to %4").arg(entry.shortName).arg(value).arg(minimum).arg(maximum));
+    if (std::is_integral<T>::value) {
+        const T increment = Numeric<T>::increment(node, &error);
+        checkError(error, entry);
+        if (increment > 1 && (quint64(value) - quint64(minimum)) % quint64(increment) != 0)
+            throwInvalidArgument(QStringLiteral("%1: %2 is not %3 plus a multiple of %4")
+                                     .arg(entry.shortName)
+                                     .arg(value)
+                                     .arg(minimum)
+                                     .arg(increment));
+    }
+    Numeric<T>::set(node, value, &error);
+    checkError(error, entry);
+    afterWrite(index);
+}
+
+qint64 NodeMapState::integerValue(int index, const QString& fullName, int which)
+{
+    return numericValue<qint64>(index, fullName, which);
 }
 
 void NodeMapState::setInteger(int index, const QString& fullName, qint64 value)
 {
-    const Entry& entry = live(index, fullName);
-    checkWritable(entry);
-    auto* node = ARV_GC_INTEGER(arvNode(entry));
-    GError* error = nullptr;
-    const qint64 minimum
-        = rangeOrDefault(arv_gc_integer_get_min(node, &error), &error, std::numeric_limits<qint64>::min());
-    checkError(error, entry);
-    const qint64 maximum
-        = rangeOrDefault(arv_gc_integer_get_max(node, &error), &error, std::numeric_limits<qint64>::max());
-    checkError(error, entry);
-    const qint64 increment = rangeOrDefault(arv_gc_integer_get_inc(node, &error), &error, qint64(1));
-    checkError(error, entry);
-    if (value < minimum || value > maximum)
-        throwInvalidArgument(
-            QStringLiteral("%1: %2 is outside %3 to %4").arg(entry.shortName).arg(value).arg(minimum).arg(maximum));
-    if (increment > 1 && (quint64(value) - quint64(minimum)) % quint64(increment) != 0)
-        throwInvalidArgument(QStringLiteral("%1: %2 is not %3 plus a multiple of %4")
-                                 .arg(entry.shortName)
-                                 .arg(value)
-                                 .arg(minimum)
-                                 .arg(increment));
-    arv_gc_integer_set_value(node, value, &error);
-    checkError(error, entry);
-    afterWrite(index);
+    setNumeric<qint64>(index, fullName, value);
 }
 
 double NodeMapState::floatValue(int index, const QString& fullName, int which)
 {
-    const Entry& entry = live(index, fullName);
-    auto* node = ARV_GC_FLOAT(arvNode(entry));
-    GError* error = nullptr;
-    const double value = which == Minimum
-        ? rangeOrDefault(arv_gc_float_get_min(node, &error), &error, -std::numeric_limits<double>::max())
-        : which == Maximum
-        ? rangeOrDefault(arv_gc_float_get_max(node, &error), &error, std::numeric_limits<double>::max())
-        : arv_gc_float_get_value(node, &error);
-    checkError(error, entry);
-    return value;
+    return numericValue<double>(index, fullName, which);
 }
 
 void NodeMapState::setFloat(int index, const QString& fullName, double value)
 {
-    const Entry& entry = live(index, fullName);
-    checkWritable(entry);
-    auto* node = ARV_GC_FLOAT(arvNode(entry));
-    GError* error = nullptr;
-    const double minimum
-        = rangeOrDefault(arv_gc_float_get_min(node, &error), &error, -std::numeric_limits<double>::max());
-    checkError(error, entry);
-    const double maximum
-        = rangeOrDefault(arv_gc_float_get_max(node, &error), &error, std::numeric_limits<double>::max());
-    checkError(error, entry);
-    if (!std::isfinite(value) || value < minimum || value > maximum)
-        throwInvalidArgument(
-            QStringLiteral("%1: %2 is outside %3 to %4").arg(entry.shortName).arg(value).arg(minimum).arg(maximum));
-    arv_gc_float_set_value(node, value, &error);
-    checkError(error, entry);
-    afterWrite(index);
+    setNumeric<double>(index, fullName, value);
 }
 
 void NodeMapState::execute(int index, const QString& fullName)

@@ -109,6 +109,8 @@ private:
     GenApi::EVisibility visibilityOf(const Entry& entry) const;
     QSharedPointer<const ParameterCollection::ParameterData> readSnapshot(const Entry& entry) const;
     void checkWritable(const Entry& entry) const;
+    template <typename T> T numericValue(int index, const QString& fullName, int which);
+    template <typename T> void setNumeric(int index, const QString& fullName, T value);
     void noticeSnapshot(int index, const QSharedPointer<const ParameterCollection::ParameterData>& data);
     void refresh(int index);
     void afterWrite(int index);
