@@ -206,10 +206,10 @@ void TestAravisNodeMap::oneNodeMapAndItsBaseInfo()
 void TestAravisNodeMap::walksTheWholeDocument()
 {
     const QList<QString> all = m_map->getChildNames(QStringLiteral("@CameraDevice/Root"), true, true);
-    const QList<QString> expected
-        = { "DeviceControl", "DeviceVendorName", "DeviceUserID", "DeviceTemperature", "DeviceIPAddress", "DeviceReset",
-              "ImageFormatControl", "SensorWidth", "Width", "OffsetX", "PixelFormat", "ReverseX", "AnalogControl",
-              "GainSelector", "Gain", "BlackLevel", "AcquisitionControl", "ExposureTime", "AcquisitionFrameRate" };
+    const QList<QString> expected = { "DeviceControl", "DeviceVendorName", "DeviceUserID", "DeviceTemperature",
+        "DeviceIPAddress", "DeviceReset", "ImageFormatControl", "SensorWidth", "Width", "OffsetX", "PixelFormat",
+        "ReverseX", "AnalogControl", "GainSelector", "Gain", "BlackLevel", "AcquisitionControl", "ExposureTime",
+        "AcquisitionFrameRate", "UserSetControl" };
     QList<QString> expectedFull;
     for (const QString& name : expected)
         expectedFull << "@CameraDevice/" + name;
@@ -279,7 +279,10 @@ void TestAravisNodeMap::categoriesInDocumentOrder()
 {
     QCOMPARE(m_map->getChildNames(QStringLiteral("@CameraDevice/Root"), false, true),
         (QList<QString> { "@CameraDevice/DeviceControl", "@CameraDevice/ImageFormatControl",
-            "@CameraDevice/AnalogControl", "@CameraDevice/AcquisitionControl" }));
+            "@CameraDevice/AnalogControl", "@CameraDevice/AcquisitionControl", "@CameraDevice/UserSetControl" }));
+    // A category without features has no children, flat or recursive.
+    QVERIFY(m_map->getChildNames(QStringLiteral("@CameraDevice/UserSetControl"), false, true).isEmpty());
+    QVERIFY(m_map->getChildNames(QStringLiteral("@CameraDevice/UserSetControl"), true, false).isEmpty());
     QCOMPARE(m_map->getChildNames(QStringLiteral("AnalogControl"), false, true),
         (QList<QString> { "@CameraDevice/GainSelector", "@CameraDevice/Gain", "@CameraDevice/BlackLevel" }));
 }
@@ -666,8 +669,9 @@ void TestAravisNodeMap::imposingRefusesUnknownTexts()
 
 void TestAravisNodeMap::zombies()
 {
-    for (const QString& name : { QStringLiteral("Nope"), QStringLiteral("@CameraDevice/Nope"),
-             QStringLiteral("@TransportLayer/Width"), QStringLiteral("Width/Alias") }) {
+    for (const QString& name :
+        { QStringLiteral("Nope"), QStringLiteral("@CameraDevice/Nope"), QStringLiteral("@TransportLayer/Width"),
+            QStringLiteral("Width/Alias"), QStringLiteral("@CameraDevice") }) {
         const QSharedPointer<IParameter> zombie = m_map->getParameter(name);
         QVERIFY(zombie);
         QVERIFY(zombie->isZombie());
@@ -684,6 +688,8 @@ void TestAravisNodeMap::zombies()
     QCOMPARE(
         m_map->getParameter(QStringLiteral("@TransportLayer/Width"))->getFullName(), QString("@TransportLayer/Width"));
     QCOMPARE(m_map->getParameter(QStringLiteral("Nope"))->getFullName(), QString("@CameraDevice/Nope"));
+    // A full name without "/" is all node map part: a zombie that keeps it whole.
+    QCOMPARE(m_map->getParameter(QStringLiteral("@CameraDevice"))->getFullName(), QString("@CameraDevice"));
 }
 
 void TestAravisNodeMap::sameObjectForEveryLookUp()
@@ -708,9 +714,18 @@ void TestAravisNodeMap::aravisErrorsBecomeGenICamExceptions()
         qPrintable(message));
     QCOMPARE(
         thrownText<GenICam::GenericException>([&] { broken.dynamicCast<IIntegerParameter>()->getValue(); }), message);
-    // Not a lost device: everything else still works.
+    // Not a lost device: everything else still works, and a poll still
+    // delivers the other features' changes before it reports the failure.
     QVERIFY(!broken->isZombie());
-    QCOMPARE(snapshotOf<ParameterData>(*m_map, "Width")->valueText, QString("640"));
+    const QSharedPointer<IParameter> width = m_map->getParameter(QStringLiteral("Width"));
+    QCOMPARE(width->getParameterData()->valueText, QString("640"));
+    QScopedPointer<QSignalSpy> spy(spyOn(width));
+    writeRegister(m_device->arvDevice(), 0x1A0000, 800);
+    QCOMPARE(thrownText<GenICam::GenericException>([this] { m_map->poll(300); }), message);
+    settle();
+    QCOMPARE(spy->count(), 1);
+    QCOMPARE(spy->at(0).at(0).value<Snapshot>()->valueText, QString("800"));
+    QVERIFY(!m_map->isLost());
 }
 
 void TestAravisNodeMap::lostDeviceTurnsEverythingIntoZombies()
@@ -746,6 +761,9 @@ void TestAravisNodeMap::treeModelShowsTheVendorCamera()
     QVERIFY(model.setData(gain.siblingAtColumn(1), QStringLiteral("20.5"), Qt::EditRole));
     QCOMPARE(arv_device_get_integer_feature_value(m_device->arvDevice(), "GainRaw", nullptr), gint64(205));
     QTRY_VERIFY(gain.siblingAtColumn(1).data().toString().startsWith(QStringLiteral("20.5")));
+    const QModelIndex empty = model.findItemByFullName(QStringLiteral("@CameraDevice/UserSetControl"), nullptr, 0);
+    QVERIFY(empty.isValid());
+    QCOMPARE(model.rowCount(empty), 0);
     const QStringList reports = check.unexcused();
     QVERIFY2(reports.isEmpty(), qPrintable(reports.join(QLatin1Char('\n'))));
 }
