@@ -12,6 +12,7 @@
 #include "featuretreetestsupport.h"
 
 #include "featuretree/featuretreeinodeitem.h"
+#include "featuretree/nodemapfilter.h"
 #include "parameters/iparametercollection.h"
 
 #include <QElapsedTimer>
@@ -116,6 +117,13 @@ void TestAravisFakeCamera::openFillWritePollAndLose()
     QCOMPARE(device->transportLayerType(), QString("GEV"));
     QSharedPointer<Aravis::AravisNodeMap> map = device->nodeMap(QStringLiteral("@CameraDevice"));
     QVERIFY(map);
+
+    // The shipped filters impose on a real camera as on the simulated one: a
+    // GigE Vision camera's own node map gets the default filter.
+    QVERIFY(NodeMapFilter::applyFilter(map, device->baseInfo(), QStringLiteral("@CameraDevice")));
+    QCOMPARE(map->getParameter(QStringLiteral("AcquisitionStart"))->getVisibility(), GenApi::Invisible);
+    QCOMPARE(map->getParameter(QStringLiteral("AcquisitionStart"))->getParameterData()->visibility,
+        qint32(GenApi::Invisible));
 
     FeatureTreeModel model;
     TreeTest::ModelCheck check(&model, { TreeTest::Excuse::ChildrenInEveryColumn, TreeTest::Excuse::RootFlags });
