@@ -25,36 +25,12 @@
 
 using namespace ParameterCollection;
 
+using BenchmarkUtil::fillStandardModel;
+using BenchmarkUtil::walkRowCount;
+
 namespace {
 
 const QString nodeMapName = QStringLiteral("@CameraDevice");
-
-int walkRowCount(const QAbstractItemModel& model, const QModelIndex& parent)
-{
-    const int rows = model.rowCount(parent);
-    int total = rows;
-    for (int row = 0; row < rows; ++row)
-        total += walkRowCount(model, model.index(row, 0, parent));
-    return total;
-}
-
-// The plain alternative: the same names and value texts copied into standard items.
-void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, const QString& fullName)
-{
-    for (const QString& child : collection.getChildNames(fullName, false, true)) {
-        const QSharedPointer<IParameter> parameter = collection.getParameter(child);
-        if (!parameter || parameter->isZombie())
-            continue;
-        const QSharedPointer<const ParameterData> data = parameter->getParameterData();
-        const QString displayName
-            = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
-        auto* nameItem = new QStandardItem(displayName);
-        auto* valueItem = new QStandardItem(data ? data->valueText : QString());
-        parent->appendRow({ nameItem, valueItem });
-        if (parameter->getType() == TypeCategory)
-            fillStandardModel(nameItem, collection, child);
-    }
-}
 
 QString ms(double value)
 {
