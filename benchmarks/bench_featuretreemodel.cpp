@@ -21,6 +21,9 @@
 using namespace Simulation;
 using namespace ParameterCollection;
 
+using BenchmarkUtil::fillStandardModel;
+using BenchmarkUtil::walkRowCount;
+
 namespace {
 
 const QString nodeMapName = QStringLiteral("@CameraDevice");
@@ -36,15 +39,6 @@ QSharedPointer<SimulatedDevice> makeDevice(int featureCount, int polled, int cha
     return SimulatedDevice::fromDescription(SyntheticNodeMapGenerator(options).generateDevice());
 }
 
-int walkRowCount(const QAbstractItemModel& model, const QModelIndex& parent)
-{
-    const int rows = model.rowCount(parent);
-    int total = rows;
-    for (int row = 0; row < rows; ++row)
-        total += walkRowCount(model, model.index(row, 0, parent));
-    return total;
-}
-
 int readDisplay(const QAbstractItemModel& model, const QModelIndex& parent)
 {
     int characters = 0;
@@ -56,24 +50,6 @@ int readDisplay(const QAbstractItemModel& model, const QModelIndex& parent)
         characters += readDisplay(model, name);
     }
     return characters;
-}
-
-// The plain alternative: the same names and value texts copied into standard items.
-void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, const QString& fullName)
-{
-    for (const QString& child : collection.getChildNames(fullName, false, true)) {
-        const QSharedPointer<IParameter> parameter = collection.getParameter(child);
-        if (!parameter || parameter->isZombie())
-            continue;
-        const QSharedPointer<const ParameterData> data = parameter->getParameterData();
-        const QString displayName
-            = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
-        auto* nameItem = new QStandardItem(displayName);
-        auto* valueItem = new QStandardItem(data ? data->valueText : QString());
-        parent->appendRow({ nameItem, valueItem });
-        if (parameter->getType() == TypeCategory)
-            fillStandardModel(nameItem, collection, child);
-    }
 }
 
 QString ms(double value)

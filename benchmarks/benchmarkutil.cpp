@@ -1,5 +1,7 @@
 #include "benchmarkutil.h"
 
+#include "parameters/iadvancedparameteraccess.h"
+
 #include <malloc.h>
 
 #include <algorithm>
@@ -27,6 +29,34 @@ double fastestMs(int repeats, const std::function<void()>& work)
     for (int i = 0; i < repeats; ++i)
         best = std::min(best, timeMs(work));
     return best;
+}
+
+int walkRowCount(const QAbstractItemModel& model, const QModelIndex& parent)
+{
+    const int rows = model.rowCount(parent);
+    int total = rows;
+    for (int row = 0; row < rows; ++row)
+        total += walkRowCount(model, model.index(row, 0, parent));
+    return total;
+}
+
+void fillStandardModel(
+    QStandardItem* parent, ParameterCollection::IParameterCollection& collection, const QString& fullName)
+{
+    using namespace ParameterCollection;
+    for (const QString& child : collection.getChildNames(fullName, false, true)) {
+        const QSharedPointer<IParameter> parameter = collection.getParameter(child);
+        if (!parameter || parameter->isZombie())
+            continue;
+        const QSharedPointer<const ParameterData> data = parameter->getParameterData();
+        const QString displayName
+            = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+        auto* nameItem = new QStandardItem(displayName);
+        auto* valueItem = new QStandardItem(data ? data->valueText : QString());
+        parent->appendRow({ nameItem, valueItem });
+        if (parameter->getType() == TypeCategory)
+            fillStandardModel(nameItem, collection, child);
+    }
 }
 
 } // namespace BenchmarkUtil

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "parameters/iparametercollection.h"
+
+#include <QAbstractItemModel>
 #include <QElapsedTimer>
+#include <QStandardItem>
 #include <QString>
 
 #include <functional>
@@ -15,5 +19,12 @@ double fastestMs(int repeats, const std::function<void()>& work);
 
 //! Milliseconds of one run.
 double timeMs(const std::function<void()>& work);
+
+//! Asks rowCount of every row below parent, which fills a lazy tree; gives the number of rows.
+int walkRowCount(const QAbstractItemModel& model, const QModelIndex& parent);
+
+//! The plain alternative to the feature tree: the same names and value texts copied into standard items.
+void fillStandardModel(
+    QStandardItem* parent, ParameterCollection::IParameterCollection& collection, const QString& fullName);
 
 } // namespace BenchmarkUtil
