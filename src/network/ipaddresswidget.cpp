@@ -6,7 +6,7 @@
 #include "qmacaddressvalidator.h"
 #include "ui_ipaddresswidget.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QPushButton>
 
 IpAddressWidget::IpAddressWidget(QWidget* parent)
@@ -33,10 +33,13 @@ IpAddressWidget::IpAddressWidget(QWidget* parent)
     connect(ui->buttonBox, SIGNAL(accepted()), this, SLOT(accept()));
     connect(ui->buttonBox, SIGNAL(rejected()), this, SLOT(reject()));
 
-    // QLineEdit announces editingFinished only for acceptable text, but the
-    // mask and gateway are suggested on leaving an empty or unfinished
-    // address too.
+    // QLineEdit announces editingFinished only for acceptable text, and some
+    // Qt builds only when the text was edited since; the mask and gateway are
+    // suggested on every leaving of the field, also of an empty, unfinished
+    // or untouched address. Filling twice changes nothing the second time.
+    // Likewise a mask in slash form is put in dotted form on every leaving.
     ui->editIpAddress->installEventFilter(this);
+    ui->editNetmask->installEventFilter(this);
 
     setShowMacAddress(m_showMacAddress);
 }
@@ -184,8 +187,12 @@ void IpAddressWidget::showEvent(QShowEvent* event)
 
 bool IpAddressWidget::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == ui->editIpAddress && event->type() == QEvent::FocusOut && !ui->editIpAddress->hasAcceptableInput())
-        on_editIpAddress_editingFinished();
+    if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+        if (watched == ui->editIpAddress)
+            on_editIpAddress_editingFinished();
+        else if (watched == ui->editNetmask)
+            on_editNetmask_editingFinished();
+    }
     return QDialog::eventFilter(watched, event);
 }
 
