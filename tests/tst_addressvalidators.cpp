@@ -167,10 +167,7 @@ void TestAddressValidators::addressAtEveryKeystroke_data()
 
 void TestAddressValidators::addressAtEveryKeystroke()
 {
-    QFETCH(QString, input);
-    QFETCH(QValidator::State, expected);
-    QIpAddressValidator validator;
-    QCOMPARE(judge(validator, input), expected);
+    address();
 }
 
 void TestAddressValidators::addressTypedIntoLineEdit()

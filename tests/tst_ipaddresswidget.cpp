@@ -74,6 +74,7 @@ private slots:
     void typedAddressFillsMaskAndGateway_data();
     void typedAddressFillsMaskAndGateway();
     void leavingAnEmptyAddressFillsTheClassAMask();
+    void goingToTheBackgroundFillsNothing();
     void emptiedMaskStaysEmptyUntilShownAgain();
     void emptiedGatewayStaysEmptyUntilShownAgain();
     void textFromTheSettersIsNeverOverwritten();
@@ -410,6 +411,26 @@ void TestIpAddressWidget::leavingAnEmptyAddressFillsTheClassAMask()
     QCOMPARE(f.mask->text(), QStringLiteral("255.0.0.0"));
     QCOMPARE(f.gateway->text(), QStringLiteral("0.0.0.0"));
     QVERIFY(f.okOff());
+}
+
+void TestIpAddressWidget::goingToTheBackgroundFillsNothing()
+{
+    Form f(m_dialog);
+    showAndFocus(f.address);
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(!f.address->hasFocus());
+    QVERIFY(f.mask->text().isEmpty());
+    QVERIFY(f.gateway->text().isEmpty());
+
+    // Back in the dialog, leaving the field does fill them.
+    QApplication::setActiveWindow(m_dialog);
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog));
+    QTRY_VERIFY(f.address->hasFocus());
+    leave(f.address);
+    QCOMPARE(f.mask->text(), QStringLiteral("255.0.0.0"));
 }
 
 void TestIpAddressWidget::emptiedMaskStaysEmptyUntilShownAgain()

@@ -187,10 +187,14 @@ void IpAddressWidget::showEvent(QShowEvent* event)
 
 bool IpAddressWidget::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-        if (watched == ui->editIpAddress)
+    // The user leaving the field, not a context menu opening or the window
+    // going to the background.
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        const bool left = reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
+        if (left && watched == ui->editIpAddress)
             on_editIpAddress_editingFinished();
-        else if (watched == ui->editNetmask)
+        else if (left && watched == ui->editNetmask)
             on_editNetmask_editingFinished();
     }
     return QDialog::eventFilter(watched, event);
