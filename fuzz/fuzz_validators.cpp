@@ -37,6 +37,7 @@ namespace {
 
 QApplication* application = nullptr;
 IpAddressWidget* dialog = nullptr;
+QLineEdit* netmaskEdit = nullptr;
 
 void silence(QtMsgType, const QMessageLogContext&, const QString&) { }
 
@@ -118,7 +119,7 @@ void checkNetmask(const QString& text)
 
 void checkAddressWithNetmask(const QString& text, const QString& maskText, int flags)
 {
-    QLineEdit maskEdit;
+    QLineEdit& maskEdit = *netmaskEdit;
     maskEdit.setText(maskText);
     QIpAddressWithNetmaskValidator validator(flags & 32 ? nullptr : &maskEdit);
     validator.setAllowLoopbackAddress(flags & 1);
@@ -219,6 +220,9 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     application = new QApplication(*argc, *argv);
     dialog = new IpAddressWidget;
+    // No maximum length: the validator is to see every text.
+    netmaskEdit = new QLineEdit;
+    netmaskEdit->setMaxLength(1 << 20);
     return 0;
 }
 
@@ -242,5 +246,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     checkAddressWithNetmask(address, mask, flags & 63);
     checkAddressWithNetmask(gateway, mask, flags & 63);
     checkDialog(address, mask, gateway, mac, flags & 64);
+    // One turn of the event loop, as a running application has between two
+    // keystrokes: posted events are handled and Qt's timers fire, among them
+    // the one that trims the font cache, which text layout fills.
+    QCoreApplication::processEvents();
     return 0;
 }
