@@ -247,8 +247,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     checkAddressWithNetmask(gateway, mask, flags & 63);
     checkDialog(address, mask, gateway, mac, flags & 64);
     // One turn of the event loop, as a running application has between two
-    // keystrokes: posted events are handled and Qt's timers fire, among them
-    // the one that trims the font cache, which text layout fills.
+    // keystrokes: what the widgets posted is handled and Qt's timers fire,
+    // so nothing piles up that an application would have cleared.
     QCoreApplication::processEvents();
     return 0;
 }

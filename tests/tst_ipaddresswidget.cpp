@@ -669,8 +669,9 @@ void TestIpAddressWidget::allowFlagsAreKeptButChangeNothing()
 
     // What OK is judged by still refuses these addresses.
     m_dialog->setSubnetMask(QStringLiteral("255.255.255.0"));
-    for (const QString& address : { QStringLiteral("224.0.0.1"), QStringLiteral("240.0.0.1"),
-             QStringLiteral("255.255.255.255"), QStringLiteral("192.168.1.255") }) {
+    for (const QString& address :
+        { QStringLiteral("224.0.0.1"), QStringLiteral("240.0.0.1"), QStringLiteral("255.255.255.255"),
+            QStringLiteral("192.168.1.255"), QStringLiteral("0.0.0.0"), QStringLiteral("127.0.0.1"), QString() }) {
         m_dialog->setIpAddress(address);
         QVERIFY2(f.okOff(), qPrintable(address));
     }

@@ -5,6 +5,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTranslator>
 #include <QtTest>
 
 #include <functional>
@@ -104,6 +105,7 @@ private slots:
     void iconsComeFromTheLibrary_data();
     void iconsComeFromTheLibrary();
     void checkBoxText();
+    void checkBoxTextIsTranslated();
 
     void tickedAnswerIsStoredAndGivenByTheNextObject();
     void untickedAnswerIsNotStored();
@@ -208,6 +210,29 @@ void TestMessageBoxCheckable::checkBoxText()
     box.setCheckBoxText(QString());
     QCOMPARE(box.checkBoxText(), sentence);
     QCOMPARE(box.checkBox()->text(), sentence);
+}
+
+void TestMessageBoxCheckable::checkBoxTextIsTranslated()
+{
+    class Translator : public QTranslator
+    {
+    public:
+        QString translate(const char* context, const char* sourceText, const char*, int) const override
+        {
+            if (qstrcmp(context, "MessageBoxCheckable") == 0
+                && qstrcmp(sourceText, "&Don't show this dialog again") == 0)
+                return QStringLiteral("&Nicht mehr anzeigen");
+            return QString();
+        }
+        bool isEmpty() const override { return false; }
+    } translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    MessageBoxCheckable box(QStringLiteral("translated"), nullptr);
+    QCOMPARE(box.checkBoxText(), QStringLiteral("&Nicht mehr anzeigen"));
+    box.setCheckBoxText(QStringLiteral("x"));
+    box.setCheckBoxText(QString());
+    QCOMPARE(box.checkBoxText(), QStringLiteral("&Nicht mehr anzeigen"));
+    QCoreApplication::removeTranslator(&translator);
 }
 
 void TestMessageBoxCheckable::tickedAnswerIsStoredAndGivenByTheNextObject()
