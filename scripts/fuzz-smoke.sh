@@ -39,3 +39,15 @@ nice "$build/fuzz/fuzz_nodemapfilter" \
     -artifact_prefix="$artifacts/" \
     -print_final_stats=1 \
     "$corpus" "$root/src/resources/filters"
+
+# The address validators and the IP address dialog, seeded with a few sets.
+cmake --build "$build" --parallel "$(nproc)" --target fuzz_validators
+mkdir -p "$build/corpus/validators"
+nice "$build/fuzz/fuzz_validators" \
+    -max_total_time="$seconds" \
+    -timeout=10 \
+    -rss_limit_mb=2048 \
+    -dict="$root/fuzz/validators.dict" \
+    -artifact_prefix="$artifacts/" \
+    -print_final_stats=1 \
+    "$build/corpus/validators" "$root/fuzz/seeds/validators"

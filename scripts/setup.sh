@@ -9,6 +9,7 @@ packages=(
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
     xvfb xauth
     libaravis-dev libusb-1.0-0-dev aravis-tools-cli
+    breeze-icon-theme librsvg2-bin
 )
 # Extra packages a caller may ask for, e.g. the fuzzer's compiler.
 packages+=("$@")
