@@ -409,11 +409,8 @@ void TestFloatEditor::liveLimitsUnreadable_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("operation");
-    const int kinds[] = { int(FaultKind::GenICam), int(FaultKind::StdException), int(FaultKind::NonStdException) };
-    for (int kind : kinds) {
-        QTest::newRow(qPrintable(QStringLiteral("minimum %1").arg(kind))) << kind << int(Operation::GetMinimum);
-        QTest::newRow(qPrintable(QStringLiteral("maximum %1").arg(kind))) << kind << int(Operation::GetMaximum);
-    }
+    EditorTest::addFaultRows(
+        { { QStringLiteral("minimum"), Operation::GetMinimum }, { QStringLiteral("maximum"), Operation::GetMaximum } });
 }
 
 void TestFloatEditor::liveLimitsUnreadable()
@@ -478,11 +475,8 @@ void TestFloatEditor::stepFaults_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("operation");
-    const int kinds[] = { int(FaultKind::GenICam), int(FaultKind::StdException), int(FaultKind::NonStdException) };
-    for (int kind : kinds) {
-        QTest::newRow(qPrintable(QStringLiteral("getValue %1").arg(kind))) << kind << int(Operation::GetValue);
-        QTest::newRow(qPrintable(QStringLiteral("setValue %1").arg(kind))) << kind << int(Operation::SetValue);
-    }
+    EditorTest::addFaultRows(
+        { { QStringLiteral("getValue"), Operation::GetValue }, { QStringLiteral("setValue"), Operation::SetValue } });
 }
 
 void TestFloatEditor::stepFaults()
