@@ -131,6 +131,7 @@ private slots:
     void initialisesFromFloatAndAlias();
     void modeByNameAndRepresentation_data();
     void modeByNameAndRepresentation();
+    void exposureTimeInLinearRepresentation();
     void aliasThatIsAFloat();
     void aliasIncrementZeroIsRefused();
     void logarithmicAliasFromZero();
@@ -228,6 +229,21 @@ void TestFloatSliderEditor::modeByNameAndRepresentation()
         QCOMPARE(editor.theSlider()->maximum(), editor.intMaximum());
     else
         QCOMPARE(editor.theSlider()->maximum(), 100000);
+}
+
+void TestFloatSliderEditor::exposureTimeInLinearRepresentation()
+{
+    const auto device = TreeTest::makeDevice(TreeTest::cameraJson(R"(
+        { "name": "Root", "type": "Category", "children": ["ExposureTime"] },
+        { "name": "ExposureTime", "type": "Float", "representation": "Linear", "alias": true, "precision": 1,
+          "value": 5000.0, "min": 20.0, "max": 1000000.0 })"));
+    QVERIFY(device);
+    OpenFloatSliderEditor editor(device->nodeMap(QStringLiteral("@CameraDevice")));
+    editor.setEditorData(EditorTest::editorDataOf(device, QStringLiteral("ExposureTime")));
+    QVERIFY(editor.isInitialized());
+    QCOMPARE(editor.mode(), TwoModeDoubleComboSlider::ModeLinear);
+    QCOMPARE(editor.theSlider()->maximum(), 1000000);
+    QCOMPARE(editor.theSlider()->value(), 5000);
 }
 
 void TestFloatSliderEditor::aliasThatIsAFloat()
@@ -569,7 +585,9 @@ void TestFloatSliderEditor::lookupFaultsRetryLater_data()
     QTest::addColumn<int>("kind");
     const int kinds[] = { int(FaultKind::GenICam), int(FaultKind::StdException), int(FaultKind::NonStdException) };
     const QList<QPair<QString, int>> targets = { { QStringLiteral("@CameraDevice"), int(Operation::GetParameter) },
+        { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetName) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetFullName) },
+        { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetMaximum) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::AdvancedAccess) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetProperty) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetMinimum) },
