@@ -207,7 +207,7 @@ int main(int argc, char** argv)
                 edit->setToolTip(QStringLiteral("Range: %1..%2").arg(0).arg(1000));
             } },
         { "IntSliderEditor", "QSpinBox+QSlider", [](QWidget* p) { return new IntSliderEditor(p); }, editorFill(width),
-            spinAndSlider,
+            spinAndSlider<QSpinBox>,
             [](QWidget* w, bool second) {
                 auto* spin = w->findChild<QSpinBox*>();
                 auto* slider = w->findChild<QSlider*>();
