@@ -78,6 +78,7 @@ private slots:
     void pageKeyThenMouseStep();
     void pageKeysUsePageStepBothWays();
     void wheelStepReachesTheSliderAtOnce();
+    void sliderKeysAndWheelEmitOnlyGridValues();
     void enableUpdateSilencesUserChanges();
     void rangeSettersEmitRangeAndNoValue_data();
     void rangeSettersEmitRangeAndNoValue();
@@ -399,6 +400,29 @@ void TestComboSlider::wheelStepReachesTheSliderAtOnce()
     wheel(combo.theSpinBox(), -2);
     QCOMPARE(combo.theSlider()->value(), 48);
     QCOMPARE(spy.last().at(0).toInt(), 48);
+}
+
+void TestComboSlider::sliderKeysAndWheelEmitOnlyGridValues()
+{
+    Window window;
+    ComboSliderProbe& combo = *window.combo;
+    QVERIFY(window.showWith(0, 100, 5, 35));
+    combo.setPageStep(7); // a page that leaves the grid
+    QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
+
+    combo.theSlider()->setFocus();
+    QTest::keyClick(combo.theSlider(), Qt::Key_PageUp); // 42, snapped to 40
+    QCOMPARE(combo.value(), 40);
+    QCOMPARE(combo.theSpinBox()->value(), 40);
+    QTest::keyClick(combo.theSlider(), Qt::Key_Right); // one single step
+    QCOMPARE(combo.value(), 45);
+    wheel(combo.theSlider(), -1); // three single steps, bounded by the page: 38, snapped to 35
+    QCOMPARE(combo.value(), 35);
+
+    QCOMPARE(spy.count(), 3);
+    QCOMPARE(spy.at(0).at(0).toInt(), 40);
+    QCOMPARE(spy.at(1).at(0).toInt(), 45);
+    QCOMPARE(spy.at(2).at(0).toInt(), 35);
 }
 
 void TestComboSlider::enableUpdateSilencesUserChanges()
