@@ -6,6 +6,7 @@
 #include "parameters/iadvancedparameteraccess.h"
 
 #include <QSlider>
+#include <QThread>
 #include <QtTest>
 
 #include <cmath>
@@ -153,6 +154,7 @@ private slots:
     void lookupFaultsRetryLater_data();
     void lookupFaultsRetryLater();
     void unpluggedDevice();
+    void aliasUpdatesFromAnotherThread();
 
 private:
     AbstractItemEditor::EditorData dataOf(const QString& feature) const
@@ -648,6 +650,30 @@ void TestFloatSliderEditor::unpluggedDevice()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^setEditorData : +Exception")));
     late.setEditorData(data);
     QVERIFY(!late.isInitialized());
+}
+
+// The parameter layer may signal from a thread of its own; the slider follows
+// on the thread of the widgets.
+void TestFloatSliderEditor::aliasUpdatesFromAnotherThread()
+{
+    QThread worker;
+    worker.start();
+    m_device->setDeliveryThread(&worker);
+    const auto data = dataOf(QStringLiteral("ExposureDelay"));
+    OpenFloatSliderEditor editor(nodeMap());
+    editor.setEditorData(data);
+    QThread* sliderThread = nullptr;
+    connect(
+        editor.theSlider(), &QSlider::valueChanged, this,
+        [&sliderThread](int) { sliderThread = QThread::currentThread(); }, Qt::DirectConnection);
+
+    data.node.dynamicCast<IFloatParameter>()->setValue(640.0);
+    QTRY_COMPARE(editor.theSlider()->value(), 640);
+    QCOMPARE(sliderThread, QThread::currentThread());
+
+    m_device->setDeliveryThread(nullptr);
+    worker.quit();
+    QVERIFY(worker.wait(5000));
 }
 
 QTEST_MAIN(TestFloatSliderEditor)
