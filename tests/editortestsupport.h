@@ -17,7 +17,8 @@ namespace EditorTest {
 inline QByteArray editorCameraJson()
 {
     return TreeTest::cameraJson(R"(
-        { "name": "Root", "type": "Category", "children": ["Flag", "Mode", "Start", "Count"] },
+        { "name": "Root", "type": "Category", "children": ["Flag", "Mode", "Start", "Count", "Big", "Hex", "Address",
+          "Mac", "Gain", "Level", "ExposureTime", "ExposureDelay"] },
         { "name": "Flag", "type": "Boolean", "value": true },
         { "name": "FlagRO", "type": "Boolean", "access": "RO", "value": true },
         { "name": "Lock", "type": "Boolean", "value": false },
