@@ -8,6 +8,7 @@ packages=(
     cmake ninja-build g++ pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
     xvfb xauth
+    breeze-icon-theme librsvg2-bin
 )
 # Extra packages a caller may ask for, e.g. the fuzzer's compiler.
 packages+=("$@")
