@@ -18,18 +18,18 @@ inline QByteArray everyKindCamera()
         { "name": "Root", "type": "Category", "children": ["Controls"] },
         { "name": "Controls", "type": "Category", "children":
             ["Gain", "Width", "Offset", "Mode", "Flag", "Go", "Label", "Secret", "Fixed"] },
-        { "name": "Gain", "type": "Float", "value": 1.5, "min": 0, "max": 10, "representation": "Logarithmic" },
-        { "name": "Width", "type": "Integer", "value": 64, "min": 16, "max": 1024, "inc": 16,
+        { "name": "Gain", "displayName": "Gain", "type": "Float", "value": 1.5, "min": 0, "max": 10, "representation": "Logarithmic" },
+        { "name": "Width", "displayName": "Width", "type": "Integer", "value": 64, "min": 16, "max": 1024, "inc": 16,
           "representation": "Linear" },
-        { "name": "Offset", "type": "Integer", "value": 0, "min": 0, "max": 100, "representation": "HexNumber" },
-        { "name": "Mode", "type": "Enumeration", "value": "Auto",
+        { "name": "Offset", "displayName": "Offset", "type": "Integer", "value": 0, "min": 0, "max": 100, "representation": "HexNumber" },
+        { "name": "Mode", "displayName": "Mode", "type": "Enumeration", "value": "Auto",
           "entries": [ { "value": "Auto", "numeric": 0 }, { "value": "Manual", "numeric": 1 } ] },
-        { "name": "Flag", "type": "Boolean", "value": false },
-        { "name": "Go", "type": "Command" },
-        { "name": "Label", "type": "String", "value": "hello" },
-        { "name": "Secret", "type": "Integer", "value": 3, "min": 0, "max": 9, "visibility": "Guru",
+        { "name": "Flag", "displayName": "Flag", "type": "Boolean", "value": false },
+        { "name": "Go", "displayName": "Go", "type": "Command" },
+        { "name": "Label", "displayName": "Label", "type": "String", "value": "hello" },
+        { "name": "Secret", "displayName": "Secret", "type": "Integer", "value": 3, "min": 0, "max": 9, "visibility": "Guru",
           "representation": "Linear" },
-        { "name": "Fixed", "type": "Integer", "value": 7, "min": 7, "max": 7, "access": "RO",
+        { "name": "Fixed", "displayName": "Fixed", "type": "Integer", "value": 7, "min": 7, "max": 7, "access": "RO",
           "representation": "Linear" }
     )");
 }

@@ -12,20 +12,15 @@
 
 #include <exception>
 
-#if __has_include("abstractitemeditor.h")
 #include "abstractitemeditor.h"
-#define ZVC_HAVE_ABSTRACT_EDITOR 1
-#endif
-#if __has_include("checkboxeditor.h") && __has_include("enumeditor.h") && __has_include("toolbuttoneditor.h")
 #include "checkboxeditor.h"
 #include "enumeditor.h"
-#include "toolbuttoneditor.h"
-#define ZVC_HAVE_SIMPLE_EDITORS 1
-#endif
-#if __has_include("inteditor.h") && __has_include("intslidereditor.h")
 #include "inteditor.h"
+#include "toolbuttoneditor.h"
+
+#if __has_include("intslidereditor.h")
 #include "intslidereditor.h"
-#define ZVC_HAVE_INT_EDITORS 1
+#define ZVC_HAVE_INT_SLIDER_EDITOR 1
 #endif
 #if __has_include("floateditor.h") && __has_include("floatslidereditor.h")
 #include "floateditor.h"
@@ -75,10 +70,6 @@ QWidget* FeatureTreeDelegate::createEditor(
         switch (item->editorType()) {
         case FeatureTreeItem::EditorInt:
         case FeatureTreeItem::EditorIntSlider:
-#ifndef ZVC_HAVE_INT_EDITORS
-            // Until the integer editors exist, Qt's own editor stands in.
-            return QStyledItemDelegate::createEditor(parent, option, index);
-#endif
             return createIntEditor(parent, option, node.dynamicCast<IIntegerParameter>());
         case FeatureTreeItem::EditorFloat:
         case FeatureTreeItem::EditorFloatSlider:
@@ -88,19 +79,10 @@ QWidget* FeatureTreeDelegate::createEditor(
                 return editor;
             return QStyledItemDelegate::createEditor(parent, option, index);
         case FeatureTreeItem::EditorEnum:
-#ifndef ZVC_HAVE_SIMPLE_EDITORS
-            return QStyledItemDelegate::createEditor(parent, option, index);
-#endif
             return createEnumEditor(parent, option, node.dynamicCast<IEnumParameter>());
         case FeatureTreeItem::EditorBool:
-#ifndef ZVC_HAVE_SIMPLE_EDITORS
-            return QStyledItemDelegate::createEditor(parent, option, index);
-#endif
             return createCheckBoxEditor(parent, option, node.dynamicCast<IBooleanParameter>());
         case FeatureTreeItem::EditorCommand:
-#ifndef ZVC_HAVE_SIMPLE_EDITORS
-            return QStyledItemDelegate::createEditor(parent, option, index);
-#endif
             return createToolButtonEditor(parent, option, node.dynamicCast<ICommandParameter>());
         default:
             return QStyledItemDelegate::createEditor(parent, option, index);
@@ -120,16 +102,10 @@ QWidget* FeatureTreeDelegate::createEnumEditor(
 {
     if (!parameter || parameter->isZombie())
         return nullptr;
-#ifdef ZVC_HAVE_SIMPLE_EDITORS
     Q_UNUSED(option)
     auto* editor = new EnumEditor(parent);
     connect(editor, SIGNAL(activated(int)), this, SLOT(emitCommitData()));
     return editor;
-#else
-    Q_UNUSED(parent)
-    Q_UNUSED(option)
-    return nullptr;
-#endif
 }
 
 QWidget* FeatureTreeDelegate::createToolButtonEditor(
@@ -137,16 +113,10 @@ QWidget* FeatureTreeDelegate::createToolButtonEditor(
 {
     if (!parameter || parameter->isZombie())
         return nullptr;
-#ifdef ZVC_HAVE_SIMPLE_EDITORS
     Q_UNUSED(option)
     auto* editor = new ToolButtonEditor(parent);
     connect(editor, SIGNAL(clicked(bool)), this, SLOT(emitCommitData()));
     return editor;
-#else
-    Q_UNUSED(parent)
-    Q_UNUSED(option)
-    return nullptr;
-#endif
 }
 
 QWidget* FeatureTreeDelegate::createCheckBoxEditor(
@@ -154,16 +124,10 @@ QWidget* FeatureTreeDelegate::createCheckBoxEditor(
 {
     if (!parameter || parameter->isZombie())
         return nullptr;
-#ifdef ZVC_HAVE_SIMPLE_EDITORS
     Q_UNUSED(option)
     auto* editor = new CheckBoxEditor(parent);
     connect(editor, SIGNAL(clicked(bool)), this, SLOT(emitCommitData()));
     return editor;
-#else
-    Q_UNUSED(parent)
-    Q_UNUSED(option)
-    return nullptr;
-#endif
 }
 
 QWidget* FeatureTreeDelegate::createIntEditor(
@@ -171,20 +135,16 @@ QWidget* FeatureTreeDelegate::createIntEditor(
 {
     if (!parameter || parameter->isZombie())
         return nullptr;
-#ifdef ZVC_HAVE_INT_EDITORS
     Q_UNUSED(option)
+#ifdef ZVC_HAVE_INT_SLIDER_EDITOR
     if (isSliderRepresentation(representationOf(parameter))) {
         auto* editor = new IntSliderEditor(parent);
         connect(editor, SIGNAL(valueChanged(int)), this, SLOT(emitCommitData()));
         return editor;
     }
+#endif
     // The plain integer editor commits the ordinary way, through the event filter.
     return new IntEditor(parent);
-#else
-    Q_UNUSED(parent)
-    Q_UNUSED(option)
-    return nullptr;
-#endif
 }
 
 QWidget* FeatureTreeDelegate::createFloatEditor(QWidget* parent, QStyleOptionViewItem const& option,
@@ -235,14 +195,12 @@ void FeatureTreeDelegate::setEditorData(QWidget* editor, QModelIndex const& inde
     FeatureTreeItem* item = m_extension ? m_extension->getFeatureTreeItem(index) : nullptr;
     if (!item)
         return;
-#ifdef ZVC_HAVE_ABSTRACT_EDITOR
     auto* itemEditor = dynamic_cast<AbstractItemEditor*>(editor);
     auto* nodeItem = qobject_cast<FeatureTreeINodeItem*>(item);
     if (itemEditor && nodeItem) {
         itemEditor->setEditorData(AbstractItemEditor::EditorData { nodeItem->node(), nodeItem->getParameterData() });
         return;
     }
-#endif
     // Don't overwrite what the user is typing.
     if (editor && editor->hasFocus())
         return;
@@ -251,14 +209,12 @@ void FeatureTreeDelegate::setEditorData(QWidget* editor, QModelIndex const& inde
 
 void FeatureTreeDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, QModelIndex const& index) const
 {
-#ifdef ZVC_HAVE_ABSTRACT_EDITOR
     if (index.column() == 1 && editor && model) {
         if (auto* itemEditor = dynamic_cast<AbstractItemEditor*>(editor)) {
             model->setData(index, itemEditor->editorData(), Qt::EditRole);
             return;
         }
     }
-#endif
     QStyledItemDelegate::setModelData(editor, model, index);
 }
 
