@@ -10,6 +10,7 @@
 #include "featuretree/featuretreehighlighter.h"
 #include "featuretree/featuretreeinodeitem.h"
 #include "featuretree/inteditor.h"
+#include "featuretree/intslidereditor.h"
 #include "featuretree/toolbuttoneditor.h"
 
 #include <QLineEdit>
@@ -181,6 +182,7 @@ void TestFeatureTreeDelegate::integerRepresentationChoosesTheEditor_data()
     QTest::addColumn<bool>("slider");
     QTest::newRow("HexNumber") << "Offset" << false;
     QTest::newRow("PureNumber") << "Plain" << false;
+    QTest::newRow("Linear") << "Width" << true;
 }
 
 void TestFeatureTreeDelegate::integerRepresentationChoosesTheEditor()
@@ -198,6 +200,7 @@ void TestFeatureTreeDelegate::integerRepresentationChoosesTheEditor()
     QWidget* editor = delegate.createEditor(m_parent.get(), QStyleOptionViewItem(), valueIndex(qPrintable(feature)));
     QVERIFY(editor);
     QCOMPARE(bool(qobject_cast<IntEditor*>(editor)), !slider);
+    QCOMPARE(bool(qobject_cast<IntSliderEditor*>(editor)), slider);
 }
 
 void TestFeatureTreeDelegate::parameterOfTheWrongKind()
