@@ -16,12 +16,9 @@
 #include "checkboxeditor.h"
 #include "enumeditor.h"
 #include "inteditor.h"
+#include "intslidereditor.h"
 #include "toolbuttoneditor.h"
 
-#if __has_include("intslidereditor.h")
-#include "intslidereditor.h"
-#define ZVC_HAVE_INT_SLIDER_EDITOR 1
-#endif
 #if __has_include("floateditor.h") && __has_include("floatslidereditor.h")
 #include "floateditor.h"
 #include "floatslidereditor.h"
@@ -136,13 +133,11 @@ QWidget* FeatureTreeDelegate::createIntEditor(
     if (!parameter || parameter->isZombie())
         return nullptr;
     Q_UNUSED(option)
-#ifdef ZVC_HAVE_INT_SLIDER_EDITOR
     if (isSliderRepresentation(representationOf(parameter))) {
         auto* editor = new IntSliderEditor(parent);
         connect(editor, SIGNAL(valueChanged(int)), this, SLOT(emitCommitData()));
         return editor;
     }
-#endif
     // The plain integer editor commits the ordinary way, through the event filter.
     return new IntEditor(parent);
 }
