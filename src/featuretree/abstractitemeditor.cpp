@@ -1,0 +1,3 @@
+#include "abstractitemeditor.h"
+
+AbstractItemEditor::~AbstractItemEditor() = default;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "abstractitemeditor.h"
+#include "zarvexviewercomponents_export.h"
+
+#include <QCheckBox>
+
+/*!
+ * The editor of Boolean parameters: a check box that shows the snapshot's
+ * value. The delegate commits on clicked(bool); editorData() is "1" or "0".
+ */
+class ZVC_EXPORT CheckBoxEditor : public QCheckBox, public AbstractItemEditor
+{
+    Q_OBJECT
+
+public:
+    explicit CheckBoxEditor(QWidget* parent = nullptr);
+    ~CheckBoxEditor() override;
+
+    //! A null snapshot or one of another kind is ignored without a word.
+    void setEditorData(AbstractItemEditor::EditorData data) override;
+    QVariant editorData() override;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "zarvexviewercomponents_export.h"
+
+#include <QSpinBox>
+
+/*!
+ * The integer spin box of ComboSlider. Page Up and Page Down step by a
+ * settable number of single steps, Escape undoes the edit in progress, Return
+ * stays inside the box, and every step reports editingFinished() at once so
+ * that the slider beside the box follows without waiting for focus to leave.
+ */
+class ZVC_EXPORT ZarvexQtSpinBox : public QSpinBox
+{
+    Q_OBJECT
+
+public:
+    explicit ZarvexQtSpinBox(QWidget* parent = nullptr);
+
+    void stepBy(int steps) override;
+
+    //! Single steps taken by one Page Up or Page Down; the owner writes it.
+    int pageStep = 10;
+    //! Set by a page key, so that the step it causes becomes a page step.
+    bool pageKeyPressed = false;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
