@@ -16,7 +16,7 @@ inline QByteArray everyKindCamera()
 {
     return cameraJson(R"(
         { "name": "Root", "type": "Category", "children": ["Controls"] },
-        { "name": "Controls", "type": "Category", "children":
+        { "name": "Controls", "displayName": "Controls", "type": "Category", "children":
             ["Gain", "Width", "Offset", "Mode", "Flag", "Go", "Label", "Secret", "Fixed"] },
         { "name": "Gain", "displayName": "Gain", "type": "Float", "value": 1.5, "min": 0, "max": 10, "representation": "Logarithmic" },
         { "name": "Width", "displayName": "Width", "type": "Integer", "value": 64, "min": 16, "max": 1024, "inc": 16,
