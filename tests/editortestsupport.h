@@ -48,6 +48,15 @@ inline QByteArray editorCameraJson()
         { "name": "Ratio", "type": "Float", "precision": 3, "value": 2.5, "min": 0.0, "max": 10.0 },
         { "name": "Distance", "type": "Float", "precision": 1, "value": 0.0, "min": -1000000000000.0,
           "max": 1000000000000.0, "inc": 0.5 },
+        { "name": "ExposureTime", "type": "Float", "representation": "Logarithmic", "alias": true, "precision": 1,
+          "value": 5000.0, "min": 20.0, "max": 1000000.0 },
+        { "name": "GainLog", "type": "Float", "representation": "Logarithmic", "alias": true, "precision": 1,
+          "value": 10.0, "min": 1.0, "max": 1000.0 },
+        { "name": "ExposureDelay", "type": "Float", "representation": "Linear", "alias": true, "precision": 1,
+          "value": 100.0, "min": 0.0, "max": "ExposureLimit", "inc": 0.5 },
+        { "name": "ExposureLimit", "type": "Float", "value": 1000.0, "min": 1.0, "max": 1000.0 },
+        { "name": "ExposureFromZero", "type": "Float", "representation": "Logarithmic", "alias": true,
+          "precision": 0, "value": 10.0, "min": 0.0, "max": 1000.0 },
         { "name": "HiddenFloat", "type": "Float", "access": "WO", "value": 1.0, "min": 0.0, "max": 2.0 }
     )");
 }
