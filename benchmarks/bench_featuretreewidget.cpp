@@ -15,9 +15,14 @@
 //
 // Run from a Release build on the offscreen platform:
 //   QT_QPA_PLATFORM=offscreen build-bench/benchmarks/bench_featuretreewidget
+// With "--search-only 10000" it builds only the feature tree on that many
+// synthetic features and times the search keystroke, for a profiler.
 
 #include "benchmarkutil.h"
 
+#include "featuretree/SearchEdit.h"
+#include "featuretree/featuretreemodel.h"
+#include "featuretree/featuretreewidget.h"
 #include "parameters/iadvancedparameteraccess.h"
 #include "parameters/iparametercollection.h"
 #include "simulateddevice.h"
@@ -25,12 +30,16 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QTextStream>
 #include <QTreeView>
 
 #include <functional>
+#include <limits>
 #include <memory>
 
 using namespace Simulation;
@@ -123,6 +132,21 @@ int visibleRows(const QTreeView* view, const QModelIndex& parent)
     return count;
 }
 
+//! Expands every category one by one, as a user's clicks would, so that the
+//! view's expanded() signal runs for each.
+void expandEveryCategory(QTreeView* view, const QModelIndex& parent)
+{
+    QAbstractItemModel* model = view->model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex child = model->index(row, 0, parent);
+        if (model->hasChildren(child)) {
+            view->setExpanded(child, true);
+            expandEveryCategory(view, child);
+        }
+    }
+}
+
 // ---- the plain side -----------------------------------------------------------
 
 const int WritableRole = Qt::UserRole + 1;
@@ -151,23 +175,28 @@ void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, 
     }
 }
 
-void openEditorsOnVisibleValues(QTreeView* view, const QModelIndex& parent)
+//! Opens editors on visible writable values until `budget` editors are open.
+void openEditorsOnVisibleValues(QTreeView* view, const QModelIndex& parent, int& budget)
 {
     const QAbstractItemModel* model = view->model();
-    for (int row = 0; row < model->rowCount(parent); ++row) {
+    for (int row = 0; row < model->rowCount(parent) && budget > 0; ++row) {
         const QModelIndex value = model->index(row, 1, parent);
-        if (value.data(WritableRole).toBool())
+        if (value.data(WritableRole).toBool() && !view->indexWidget(value)) {
             view->openPersistentEditor(value);
+            --budget;
+        }
         const QModelIndex name = model->index(row, 0, parent);
         if (view->isExpanded(name))
-            openEditorsOnVisibleValues(view, name);
+            openEditorsOnVisibleValues(view, name, budget);
     }
 }
 
 class PlainTree
 {
 public:
-    explicit PlainTree(const Camera& camera)
+    //! editors: as many persistent editors as the feature tree opens, at most.
+    explicit PlainTree(const Camera& camera, int editors = std::numeric_limits<int>::max())
+        : maxEditors(editors)
     {
         proxy.setSourceModel(&model);
         proxy.setRecursiveFilteringEnabled(true);
@@ -200,8 +229,8 @@ public:
 
     void expandAll()
     {
-        view.expandAll();
-        openEditorsOnVisibleValues(&view, QModelIndex());
+        expandEveryCategory(&view, QModelIndex());
+        openEditors();
         settleAndPaint(&view);
     }
 
@@ -209,7 +238,7 @@ public:
     {
         proxy.setFilterFixedString(text);
         view.expandAll();
-        openEditorsOnVisibleValues(&view, QModelIndex());
+        openEditors();
         settleAndPaint(&view);
     }
 
@@ -231,9 +260,74 @@ public:
         settleAndPaint(&view);
     }
 
+    void openEditors()
+    {
+        int budget = maxEditors - editorCount(&view);
+        openEditorsOnVisibleValues(&view, QModelIndex(), budget);
+    }
+
+    int maxEditors;
     QStandardItemModel model;
     QSortFilterProxyModel proxy;
     QTreeView view;
+    PaintWatch watch;
+};
+
+// ---- the feature tree widget ---------------------------------------------------
+
+class OurTree
+{
+public:
+    explicit OurTree(const Camera& camera)
+        : widget(QString(), camera.device->baseInfo())
+    {
+        widget.setVisibility(GenApi::Guru);
+        for (const QString& name : camera.nodeMaps)
+            widget.addParameterCollection(camera.device->nodeMap(name), name, name, false);
+        widget.resize(484, 600);
+        widget.treeView()->viewport()->installEventFilter(&watch);
+    }
+
+    void showAndPaint()
+    {
+        widget.show();
+        while (watch.paints == 0)
+            QCoreApplication::processEvents();
+        settleAndPaint(&widget);
+    }
+
+    void expandAll()
+    {
+        expandEveryCategory(widget.treeView(), QModelIndex());
+        settleAndPaint(&widget);
+    }
+
+    //! Types into the search line: textChanged goes to onFilterTextChanged.
+    void type(const QString& text)
+    {
+        QTest::keyClicks(searchEdit(), text);
+        settleAndPaint(&widget);
+    }
+
+    void clearSearch()
+    {
+        searchEdit()->clear();
+        settleAndPaint(&widget);
+    }
+
+    void pollTick()
+    {
+        auto* proxy = qobject_cast<QSortFilterProxyModel*>(widget.treeView()->model());
+        auto* model = proxy ? qobject_cast<FeatureTreeModel*>(proxy->sourceModel()) : nullptr;
+        if (model)
+            model->onTimerPoll();
+        // The changes arrive as queued signals from the simulated camera.
+        settleAndPaint(&widget);
+    }
+
+    SearchEdit* searchEdit() { return widget.findChild<SearchEdit*>(); }
+
+    FeatureTreeWidget widget;
     PaintWatch watch;
 };
 
@@ -255,12 +349,40 @@ struct Figures
     int searchRows = 0;
 };
 
-Figures measurePlain(const Camera& camera)
+Figures measureOurs(const Camera& camera)
+{
+    Figures figures;
+    std::unique_ptr<OurTree> tree;
+    figures.firstPaint = BenchmarkUtil::timeMs([&] {
+        tree = std::make_unique<OurTree>(camera);
+        tree->showAndPaint();
+    });
+    figures.expandAll = BenchmarkUtil::timeMs([&] { tree->expandAll(); });
+    figures.rows = visibleRows(tree->widget.treeView(), QModelIndex());
+    figures.editors = editorCount(tree->widget.treeView());
+    tree->searchEdit()->setFocus();
+    figures.searchKey = BenchmarkUtil::timeMs([&] { tree->type(camera.searchKey); });
+    figures.searchRows = visibleRows(tree->widget.treeView(), QModelIndex());
+    figures.clearSearch = BenchmarkUtil::timeMs([&] { tree->clearSearch(); });
+    return figures;
+}
+
+double measureOurPollTick(const Camera& camera, int* editors)
+{
+    OurTree tree(camera);
+    tree.showAndPaint();
+    tree.expandAll();
+    *editors = editorCount(tree.widget.treeView());
+    tree.pollTick(); // once to warm up
+    return BenchmarkUtil::fastestMs(5, [&] { tree.pollTick(); });
+}
+
+Figures measurePlain(const Camera& camera, int editors)
 {
     Figures figures;
     std::unique_ptr<PlainTree> tree;
     figures.firstPaint = BenchmarkUtil::timeMs([&] {
-        tree = std::make_unique<PlainTree>(camera);
+        tree = std::make_unique<PlainTree>(camera, editors);
         tree->showAndPaint();
     });
     figures.expandAll = BenchmarkUtil::timeMs([&] { tree->expandAll(); });
@@ -274,7 +396,7 @@ Figures measurePlain(const Camera& camera)
 
 double measurePlainPollTick(const Camera& camera, int* editors)
 {
-    PlainTree tree(camera);
+    PlainTree tree(camera, *editors);
     tree.showAndPaint();
     tree.expandAll();
     *editors = editorCount(&tree.view);
@@ -295,8 +417,29 @@ void printRow(QTextStream& out, const char* label, double ours, double plain, bo
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    // The favourites store keeps its list in the settings: keep them out of the user's.
+    QTemporaryDir settingsDir;
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+    QCoreApplication::setOrganizationName(QStringLiteral("ZarvexBenchmarks"));
+    QCoreApplication::setApplicationName(QStringLiteral("bench_featuretreewidget"));
     QTextStream out(stdout);
-    const bool haveOurs = false;
+    const bool haveOurs = true;
+
+    // --search-only N: only the feature tree on N synthetic features, up to
+    // and including the search keystroke; for a profiler.
+    const QStringList arguments = QCoreApplication::arguments();
+    const int searchOnly = arguments.indexOf(QStringLiteral("--search-only"));
+    if (searchOnly > 0 && searchOnly + 1 < arguments.size()) {
+        const Camera camera = syntheticCamera(arguments.at(searchOnly + 1).toInt(), -1, -1);
+        PlainTree warmUp(camera);
+        OurTree tree(camera);
+        tree.showAndPaint();
+        tree.expandAll();
+        tree.searchEdit()->setFocus();
+        out << "search keystroke [ms] " << ms(BenchmarkUtil::timeMs([&] { tree.type(camera.searchKey); })) << '\n';
+        return 0;
+    }
 
     QList<Camera> cameras;
     cameras << defaultCamera() << syntheticCamera(1000, -1, -1) << syntheticCamera(10000, -1, -1);
@@ -305,11 +448,11 @@ int main(int argc, char** argv)
         // them all now, so that neither side is charged for them.
         PlainTree warmUp(camera);
 
-        const Figures plain = measurePlain(camera);
-        const Figures ours;
-        out << "--- " << camera.label << ": rows shown after expanding " << plain.rows << " plain, editors "
-            << plain.editors << " plain; rows in the search \"" << camera.searchKey << "\" " << plain.searchRows
-            << " plain\n";
+        const Figures ours = measureOurs(camera);
+        const Figures plain = measurePlain(camera, ours.editors);
+        out << "--- " << camera.label << ": rows shown after expanding " << ours.rows << " / " << plain.rows
+            << " plain, editors " << ours.editors << " / " << plain.editors << " plain; rows in the search \""
+            << camera.searchKey << "\" " << ours.searchRows << " / " << plain.searchRows << " plain\n";
         out << qSetFieldWidth(34) << Qt::left << "[ms]" << qSetFieldWidth(14) << Qt::right << "FeatureTree"
             << qSetFieldWidth(14) << "plain Qt" << qSetFieldWidth(8) << "ratio" << qSetFieldWidth(0) << Qt::left
             << '\n';
@@ -320,12 +463,15 @@ int main(int argc, char** argv)
         out.flush();
     }
 
-    // One poll tick: 1 000 features, all shown with their editors; 100 of
-    // them are polled, 10 of those change.
-    const Camera polled = syntheticCamera(1000, 100, 10);
-    int plainEditors = 0;
+    // One poll tick with about 1 000 editors open: 1 600 features, all shown
+    // (not every kind has a persistent editor); 100 of them are polled, 10 of
+    // those change.
+    const Camera polled = syntheticCamera(1600, 100, 10);
+    int ourEditors = 0;
+    const double ourTick = measureOurPollTick(polled, &ourEditors);
+    int plainEditors = ourEditors;
     const double plainTick = measurePlainPollTick(polled, &plainEditors);
-    out << "--- poll tick, 10 changed values; editors open: " << plainEditors << " plain\n";
-    printRow(out, "poll tick to repaint", 0, plainTick, haveOurs);
+    out << "--- poll tick, 10 changed values; editors open: " << ourEditors << " / " << plainEditors << " plain\n";
+    printRow(out, "poll tick to repaint", ourTick, plainTick, haveOurs);
     return 0;
 }
