@@ -17,8 +17,10 @@ inline QByteArray everyKindCamera()
     return cameraJson(R"(
         { "name": "Root", "type": "Category", "children": ["Controls"] },
         { "name": "Controls", "displayName": "Controls", "type": "Category", "children":
-            ["Gain", "Width", "Offset", "Mode", "Flag", "Go", "Label", "Secret", "Fixed"] },
+            ["Gain", "Exposure", "Width", "Offset", "Mode", "Flag", "Go", "Label", "Secret", "Fixed"] },
         { "name": "Gain", "displayName": "Gain", "type": "Float", "value": 1.5, "min": 0, "max": 10, "representation": "Logarithmic" },
+        { "name": "Exposure", "displayName": "Exposure", "type": "Float", "value": 100, "min": 10, "max": 1000,
+          "representation": "Linear", "alias": true },
         { "name": "Width", "displayName": "Width", "type": "Integer", "value": 64, "min": 16, "max": 1024, "inc": 16,
           "representation": "Linear" },
         { "name": "Offset", "displayName": "Offset", "type": "Integer", "value": 0, "min": 0, "max": 100, "representation": "HexNumber" },

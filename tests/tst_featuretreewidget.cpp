@@ -442,7 +442,7 @@ void TestFeatureTreeWidget::searchLineFocusedEmitsNoParameterButActionsFollow()
     widget.treeView()->setFocus();
     QTest::keyClick(widget.treeView(), Qt::Key_Down);
     QCOMPARE(parameterSignal.count(), 1);
-    QCOMPARE(parameterSignal.at(0).at(0).value<QSharedPointer<ParameterCollection::IParameter>>(), parameter("Width"));
+    QCOMPARE(parameterSignal.at(0).at(0).value<QSharedPointer<ParameterCollection::IParameter>>(), parameter("Exposure"));
 
     // A row without parameter but with a description gives its text, focus or not.
     QSignalSpy text(&widget, SIGNAL(onNewText(QString)));

@@ -16,14 +16,10 @@
 #include "checkboxeditor.h"
 #include "enumeditor.h"
 #include "floateditor.h"
+#include "floatslidereditor.h"
 #include "inteditor.h"
 #include "intslidereditor.h"
 #include "toolbuttoneditor.h"
-
-#if __has_include("floatslidereditor.h")
-#include "floatslidereditor.h"
-#define ZVC_HAVE_FLOAT_SLIDER_EDITOR 1
-#endif
 
 using namespace ParameterCollection;
 
@@ -149,7 +145,6 @@ QWidget* FeatureTreeDelegate::createFloatEditor(QWidget* parent, QStyleOptionVie
     if (!parameter || parameter->isZombie())
         return nullptr;
     const QString representation = representationOf(parameter);
-#ifdef ZVC_HAVE_FLOAT_SLIDER_EDITOR
     // The slider needs the whole-unit alias of the feature beside it.
     if (isSliderRepresentation(representation) && collection
         && collection->hasParameter(parameter->getFullName() + QStringLiteral("/Alias"))) {
@@ -157,9 +152,6 @@ QWidget* FeatureTreeDelegate::createFloatEditor(QWidget* parent, QStyleOptionVie
         connect(editor, SIGNAL(boxValueChanged()), this, SLOT(emitCommitData()));
         return editor;
     }
-#else
-    Q_UNUSED(collection)
-#endif
     auto* editor = new FloatEditor(parent, representation);
     connect(editor, SIGNAL(boxValueChanged()), this, SLOT(emitCommitData()));
     return editor;
