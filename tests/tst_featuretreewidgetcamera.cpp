@@ -32,30 +32,6 @@ namespace {
 const char* const kNodeMaps[]
     = { "@CameraDevice", "@DeviceTransportLayer", "@StreamGrabber0", "@EventGrabber", "@ImageFormatConverter" };
 
-// Counts the warnings that reach the handler while it is installed.
-class WarningCounter
-{
-public:
-    WarningCounter()
-    {
-        s_count = 0;
-        s_previous = qInstallMessageHandler(&WarningCounter::handler);
-    }
-    ~WarningCounter() { qInstallMessageHandler(s_previous); }
-    static int count() { return s_count; }
-
-private:
-    static void handler(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        if (type == QtWarningMsg)
-            ++s_count;
-        if (s_previous)
-            s_previous(type, context, text);
-    }
-    static inline int s_count = 0;
-    static inline QtMessageHandler s_previous = nullptr;
-};
-
 } // namespace
 
 class TestFeatureTreeWidgetCamera : public QObject
@@ -286,7 +262,7 @@ void TestFeatureTreeWidgetCamera::unplugWhilePollingKeepsTheLastValues()
     ErrorQueueWatch errors;
     m_widget->setPolling(true);
     QTest::qWait(700);
-    WarningCounter warnings;
+    MessageCounter warnings(QtWarningMsg);
     m_device->unplug();
     QTest::qWait(1300);
     const int reported = errors.settle();
@@ -295,12 +271,12 @@ void TestFeatureTreeWidgetCamera::unplugWhilePollingKeepsTheLastValues()
     // Nothing for the user to click away: the failed ticks are only logged,
     // two lines each, at most one tick every 300 ms.
     QVERIFY2(reported <= 1, qPrintable(QString::number(reported)));
-    QVERIFY2(WarningCounter::count() <= 2 * (1300 / 300 + 1), qPrintable(QString::number(WarningCounter::count())));
+    QVERIFY2(MessageCounter::count() <= 2 * (1300 / 300 + 1), qPrintable(QString::number(MessageCounter::count())));
     // The host tells that the device is gone: polling ends and the log goes quiet.
     m_widget->deviceIsClosed();
-    const int afterClose = WarningCounter::count();
+    const int afterClose = MessageCounter::count();
     QTest::qWait(700);
-    QCOMPARE(WarningCounter::count(), afterClose);
+    QCOMPARE(MessageCounter::count(), afterClose);
     m_widget->treeView()->viewport()->repaint();
     QCOMPARE(width.data().toString(), widthText);
     QCOMPARE(errors.settle(), reported);
