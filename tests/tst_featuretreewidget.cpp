@@ -76,6 +76,7 @@ private slots:
     void fontChangeReachesPersistentEditors();
     void searchLineFocusedEmitsNoParameterButActionsFollow();
     void currentItemsAndHitTest();
+    void currentRowGoingAboveTheLevelEmitsNoParameter();
     void addParameterCollectionRestoresFavouritesExpansion();
     void saveStateKeepsColumnWidths();
 
@@ -442,7 +443,8 @@ void TestFeatureTreeWidget::searchLineFocusedEmitsNoParameterButActionsFollow()
     widget.treeView()->setFocus();
     QTest::keyClick(widget.treeView(), Qt::Key_Down);
     QCOMPARE(parameterSignal.count(), 1);
-    QCOMPARE(parameterSignal.at(0).at(0).value<QSharedPointer<ParameterCollection::IParameter>>(), parameter("Exposure"));
+    QCOMPARE(
+        parameterSignal.at(0).at(0).value<QSharedPointer<ParameterCollection::IParameter>>(), parameter("Exposure"));
 
     // A row without parameter but with a description gives its text, focus or not.
     QSignalSpy text(&widget, SIGNAL(onNewText(QString)));
@@ -475,6 +477,27 @@ void TestFeatureTreeWidget::currentItemsAndHitTest()
     QVERIFY(widget.IsOnCurrentItem(widget.treeView()->viewport()->mapToGlobal(rect.center())));
     const QRect other = widget.treeView()->visualRect(index(widget, "Width"));
     QVERIFY(!widget.IsOnCurrentItem(widget.treeView()->viewport()->mapToGlobal(other.center())));
+}
+
+void TestFeatureTreeWidget::currentRowGoingAboveTheLevelEmitsNoParameter()
+{
+    FeatureTreeWidget widget;
+    addCamera(widget);
+    widget.setVisibility(GenApi::Beginner);
+    widget.show();
+    widget.expandTree();
+    widget.treeView()->setCurrentIndex(index(widget, "Width"));
+    QVERIFY(action(widget, "actionAddToFavourites")->isEnabled());
+    QSignalSpy parameterSignal(&widget, SIGNAL(onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>)));
+    QSignalSpy viewSignal(widget.treeView(), SIGNAL(onCurrentChanged(QModelIndex)));
+
+    impose(m_device, "Width", "Visibility", "Guru");
+    deliver();
+    QCOMPARE(viewSignal.count(), 1);
+    QVERIFY(!viewSignal.at(0).at(0).toModelIndex().isValid());
+    QCOMPARE(parameterSignal.count(), 0);
+    // The actions follow the invalid index.
+    QVERIFY(!action(widget, "actionAddToFavourites")->isEnabled());
 }
 
 void TestFeatureTreeWidget::addParameterCollectionRestoresFavouritesExpansion()
