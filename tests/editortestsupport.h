@@ -42,7 +42,22 @@ inline QByteArray editorCameraJson()
         { "name": "Mac", "type": "Integer", "representation": "MACAddress", "value": 20015998343868 },
         { "name": "BoolInt", "type": "Integer", "representation": "Boolean", "value": 1, "min": 0, "max": 1 },
         { "name": "Hidden", "type": "Integer", "access": "WO", "value": 3, "min": 0, "max": 10 },
-        { "name": "Gain", "type": "Float", "value": 1.5, "min": 0.0, "max": 24.0, "inc": 0.5 }
+        { "name": "Gain", "type": "Float", "value": 1.5, "min": 0.0, "max": "GainLimit", "inc": 0.5 },
+        { "name": "GainLimit", "type": "Float", "value": 24.0, "min": 1.0, "max": 48.0 },
+        { "name": "Level", "type": "Float", "precision": 0, "value": 50.0, "min": 0.0, "max": 100.0, "inc": 1.0 },
+        { "name": "Ratio", "type": "Float", "precision": 3, "value": 2.5, "min": 0.0, "max": 10.0 },
+        { "name": "Distance", "type": "Float", "precision": 1, "value": 0.0, "min": -1000000000000.0,
+          "max": 1000000000000.0, "inc": 0.5 },
+        { "name": "ExposureTime", "type": "Float", "representation": "Logarithmic", "alias": true, "precision": 1,
+          "value": 5000.0, "min": 20.0, "max": 1000000.0 },
+        { "name": "GainLog", "type": "Float", "representation": "Logarithmic", "alias": true, "precision": 1,
+          "value": 10.0, "min": 1.0, "max": 1000.0 },
+        { "name": "ExposureDelay", "type": "Float", "representation": "Linear", "alias": true, "precision": 1,
+          "value": 100.0, "min": 0.0, "max": "ExposureLimit", "inc": 0.5 },
+        { "name": "ExposureLimit", "type": "Float", "value": 1000.0, "min": 1.0, "max": 1000.0 },
+        { "name": "ExposureFromZero", "type": "Float", "representation": "Logarithmic", "alias": true,
+          "precision": 0, "value": 10.0, "min": 0.0, "max": 1000.0 },
+        { "name": "HiddenFloat", "type": "Float", "access": "WO", "value": 1.0, "min": 0.0, "max": 2.0 }
     )");
 }
 
@@ -55,6 +70,16 @@ inline AbstractItemEditor::EditorData editorDataOf(
     data.node = nodeMap->getParameter(QStringLiteral("@CameraDevice/") + shortName);
     data.data = data.node ? data.node->getParameterData() : nullptr;
     return data;
+}
+
+//! Hands every new snapshot of the editor's parameter to the editor, as the tree item does.
+template <typename Editor>
+inline void follow(Editor* editor, const QSharedPointer<ParameterCollection::IParameter>& node)
+{
+    QObject::connect(node.data(), &ParameterCollection::IParameter::parameterDataChangedDecoupled, editor,
+        [editor, node](QSharedPointer<const ParameterCollection::ParameterData> snapshot) {
+            editor->setEditorData({ node, snapshot });
+        });
 }
 
 //! Lets the device deliver its queued change signals.

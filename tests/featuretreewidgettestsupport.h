@@ -16,9 +16,11 @@ inline QByteArray everyKindCamera()
 {
     return cameraJson(R"(
         { "name": "Root", "type": "Category", "children": ["Controls"] },
-        { "name": "Controls", "type": "Category", "children":
-            ["Gain", "Width", "Offset", "Mode", "Flag", "Go", "Label", "Secret", "Fixed"] },
+        { "name": "Controls", "displayName": "Controls", "type": "Category", "children":
+            ["Gain", "Exposure", "Width", "Offset", "Mode", "Flag", "Go", "Label", "Secret", "Fixed"] },
         { "name": "Gain", "displayName": "Gain", "type": "Float", "value": 1.5, "min": 0, "max": 10, "representation": "Logarithmic" },
+        { "name": "Exposure", "displayName": "Exposure", "type": "Float", "value": 100, "min": 10, "max": 1000,
+          "representation": "Linear", "alias": true },
         { "name": "Width", "displayName": "Width", "type": "Integer", "value": 64, "min": 16, "max": 1024, "inc": 16,
           "representation": "Linear" },
         { "name": "Offset", "displayName": "Offset", "type": "Integer", "value": 0, "min": 0, "max": 100, "representation": "HexNumber" },
@@ -71,6 +73,50 @@ inline void expandTo(QTreeView& view, const QModelIndex& index)
     for (const QModelIndex& parent : chain)
         view.expand(parent.sibling(parent.row(), 0));
 }
+
+//! Counts the messages of at least the given severity that reach the handler while it is installed.
+class MessageCounter
+{
+public:
+    explicit MessageCounter(QtMsgType least = QtDebugMsg)
+    {
+        s_least = least;
+        s_count = 0;
+        s_previous = qInstallMessageHandler(&MessageCounter::handler);
+    }
+    ~MessageCounter() { qInstallMessageHandler(s_previous); }
+    MessageCounter(const MessageCounter&) = delete;
+    MessageCounter& operator=(const MessageCounter&) = delete;
+    static int count() { return s_count; }
+
+private:
+    static int severity(QtMsgType type)
+    {
+        switch (type) {
+        case QtDebugMsg:
+            return 0;
+        case QtInfoMsg:
+            return 1;
+        case QtWarningMsg:
+            return 2;
+        case QtCriticalMsg:
+            return 3;
+        case QtFatalMsg:
+            return 4;
+        }
+        return 0;
+    }
+    static void handler(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        if (severity(type) >= severity(s_least))
+            ++s_count;
+        if (s_previous)
+            s_previous(type, context, text);
+    }
+    static inline int s_count = 0;
+    static inline QtMsgType s_least = QtDebugMsg;
+    static inline QtMessageHandler s_previous = nullptr;
+};
 
 //! Counts the pixels of the image that have exactly this colour.
 inline int countPixels(const QImage& image, const QColor& colour)

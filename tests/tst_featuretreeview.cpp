@@ -28,29 +28,6 @@ public:
     mutable QList<QPair<QPersistentModelIndex, bool>> painted;
 };
 
-// Counts the messages that reach the handler while it is installed.
-class MessageCounter
-{
-public:
-    MessageCounter()
-    {
-        s_previous = qInstallMessageHandler(&MessageCounter::handler);
-        s_count = 0;
-    }
-    ~MessageCounter() { qInstallMessageHandler(s_previous); }
-    static int count() { return s_count; }
-
-private:
-    static void handler(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        ++s_count;
-        if (s_previous)
-            s_previous(type, context, text);
-    }
-    static inline int s_count = 0;
-    static inline QtMessageHandler s_previous = nullptr;
-};
-
 } // namespace
 
 class TestFeatureTreeView : public QObject

@@ -15,26 +15,22 @@
 #include "abstractitemeditor.h"
 #include "checkboxeditor.h"
 #include "enumeditor.h"
+#include "floateditor.h"
+#include "floatslidereditor.h"
 #include "inteditor.h"
 #include "intslidereditor.h"
 #include "toolbuttoneditor.h"
-
-#if __has_include("floateditor.h") && __has_include("floatslidereditor.h")
-#include "floateditor.h"
-#include "floatslidereditor.h"
-#define ZVC_HAVE_FLOAT_EDITORS 1
-#endif
 
 using namespace ParameterCollection;
 
 namespace {
 
-[[maybe_unused]] bool isSliderRepresentation(const QString& representation)
+bool isSliderRepresentation(const QString& representation)
 {
     return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
 }
 
-[[maybe_unused]] QString representationOf(const QSharedPointer<IParameter>& parameter)
+QString representationOf(const QSharedPointer<IParameter>& parameter)
 {
     const QSharedPointer<IAdvancedParameterAccess> access = parameter->advancedAccess();
     return access ? access->getProperty(QStringLiteral("Representation")) : QString();
@@ -145,11 +141,11 @@ QWidget* FeatureTreeDelegate::createIntEditor(
 QWidget* FeatureTreeDelegate::createFloatEditor(QWidget* parent, QStyleOptionViewItem const& option,
     QSharedPointer<IFloatParameter> parameter, QSharedPointer<IParameterCollection> collection) const
 {
+    Q_UNUSED(option)
     if (!parameter || parameter->isZombie())
         return nullptr;
-#ifdef ZVC_HAVE_FLOAT_EDITORS
-    Q_UNUSED(option)
     const QString representation = representationOf(parameter);
+    // The slider needs the whole-unit alias of the feature beside it.
     if (isSliderRepresentation(representation) && collection
         && collection->hasParameter(parameter->getFullName() + QStringLiteral("/Alias"))) {
         auto* editor = new FloatSliderEditor(collection, parent);
@@ -159,13 +155,6 @@ QWidget* FeatureTreeDelegate::createFloatEditor(QWidget* parent, QStyleOptionVie
     auto* editor = new FloatEditor(parent, representation);
     connect(editor, SIGNAL(boxValueChanged()), this, SLOT(emitCommitData()));
     return editor;
-#else
-    Q_UNUSED(parent)
-    Q_UNUSED(option)
-    Q_UNUSED(collection)
-    // Until the float editors exist, the caller's fallback gives Qt's own editor.
-    return nullptr;
-#endif
 }
 
 void FeatureTreeDelegate::emitCommitData()
