@@ -1,17 +1,25 @@
 #!/usr/bin/env bash
-# Builds the libFuzzer target over the filter-file parser with clang in its
-# own build directory (build-fuzz/) and runs it for a short while, seeded with
-# the shipped filter files. Fails on any crash, sanitizer report, leak,
-# time-out or memory blow-up; the input that caused it is kept in
-# build-fuzz/artifacts/.
-#   scripts/fuzz-smoke.sh            60 seconds
-#   scripts/fuzz-smoke.sh 240        as long as you like
+# Builds the libFuzzer targets with clang in their own build directory
+# (build-fuzz/) and runs each for its share of a short while: the filter-file
+# parser seeded with the shipped filter files, the restore of a saved widget
+# state seeded with two states as the widget writes them, and the address
+# validators with the IP address dialog, seeded with a few sets. Fails on any
+# crash, sanitizer report, leak, time-out or memory blow-up; the input that
+# caused it is kept in build-fuzz/artifacts/.
+#   scripts/fuzz-smoke.sh            180 seconds in all
+#   scripts/fuzz-smoke.sh 600        as long as you like, shared equally
 # ZVC_FUZZ_BUILD_DIR chooses another build directory.
 set -euo pipefail
 
-seconds="${1:-60}"
+seconds="${1:-180}"
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 "$root/scripts/setup.sh" clang-14 libclang-rt-14-dev
+
+fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators)
+share=$(( seconds / ${#fuzzers[@]} ))
+if [ "$share" -lt 1 ]; then
+    share=1
+fi
 
 compiler="$(command -v clang++-14 || command -v clang++)"
 build="${ZVC_FUZZ_BUILD_DIR:-$root/build-fuzz}"
@@ -19,35 +27,44 @@ cmake -S "$root" -B "$build" -G Ninja \
     -DCMAKE_CXX_COMPILER="$compiler" \
     -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DZVC_BUILD_FUZZERS=ON -DZVC_BUILD_TESTS=ON -DZVC_BUILD_VIEWER=OFF
-cmake --build "$build" --parallel "$(nproc)" --target fuzz_nodemapfilter
+cmake --build "$build" --parallel "$(nproc)" --target "${fuzzers[@]}"
 
-corpus="$build/corpus/nodemapfilter"
 artifacts="$build/artifacts"
-mkdir -p "$corpus" "$artifacts"
+mkdir -p "$artifacts"
 
 export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
+export LSAN_OPTIONS="suppressions=$root/fuzz/lsan.supp"
 export QT_QPA_PLATFORM=offscreen
 
-# New inputs go to the first directory; the shipped filters are only read.
 # -timeout: one input may take 10 s at most; -rss_limit_mb: the process 2 GiB.
-nice "$build/fuzz/fuzz_nodemapfilter" \
-    -max_total_time="$seconds" \
-    -timeout=10 \
-    -rss_limit_mb=2048 \
-    -dict="$root/fuzz/nodemapfilter.dict" \
-    -artifact_prefix="$artifacts/" \
-    -print_final_stats=1 \
-    "$corpus" "$root/src/resources/filters"
+# New inputs go to the first directory given; any further one is only read.
+run() {
+    local fuzzer="$1"
+    shift
+    echo "== $fuzzer for $share s"
+    nice "$build/fuzz/$fuzzer" \
+        -max_total_time="$share" \
+        -timeout=10 \
+        -rss_limit_mb=2048 \
+        -artifact_prefix="$artifacts/$fuzzer-" \
+        -print_final_stats=1 \
+        "$@"
+}
 
-# The address validators and the IP address dialog, seeded with a few sets.
-cmake --build "$build" --parallel "$(nproc)" --target fuzz_validators
-mkdir -p "$build/corpus/validators"
-nice "$build/fuzz/fuzz_validators" \
-    -max_total_time="$seconds" \
-    -timeout=10 \
-    -rss_limit_mb=2048 \
-    -dict="$root/fuzz/validators.dict" \
-    -artifact_prefix="$artifacts/" \
-    -print_final_stats=1 \
-    "$build/corpus/validators" "$root/fuzz/seeds/validators"
+corpus="$build/corpus/nodemapfilter"
+mkdir -p "$corpus"
+run fuzz_nodemapfilter -dict="$root/fuzz/nodemapfilter.dict" "$corpus" "$root/src/resources/filters"
+
+# Seeds: the first byte picks the column count (1 + byte % 8), the rest is a
+# state of version 1 in the widget's big-endian layout.
+corpus="$build/corpus/restorestate"
+seeds="$build/corpus/restorestate-seeds"
+mkdir -p "$corpus" "$seeds"
+printf '\x01\x00\x00\x00\x01\x00\x00\x00\x02\x00\x00\x00\xc8\x00\x00\x00\x64' >"$seeds/two-columns"
+printf '\x02\x00\x00\x00\x01\x00\x00\x00\x03\x00\x00\x00\x50\x00\x00\x00\x3c\x00\x00\x00\x28' >"$seeds/three-columns"
+run fuzz_restorestate "$corpus" "$seeds"
+
+corpus="$build/corpus/validators"
+mkdir -p "$corpus"
+run fuzz_validators -dict="$root/fuzz/validators.dict" "$corpus" "$root/fuzz/seeds/validators"

@@ -15,12 +15,17 @@ endfunction()
 
 run(${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${prefix}")
 
+# The host shows a widget; no display is needed for that.
+set(ENV{QT_QPA_PLATFORM} offscreen)
+set(ENV{XDG_CONFIG_HOME} "${WORK_DIR}/xdg-config")
+
 foreach(expected
         lib/libZarvexViewerComponents.so.6
         lib/cmake/ZarvexViewerComponents/ZarvexViewerComponentsConfig.cmake
         lib/pkgconfig/ZarvexViewerComponents.pc
         include/ZarvexViewerComponents/zarvexviewercomponents_export.h
-        include/ZarvexViewerComponents/parameters/iparameter.h)
+        include/ZarvexViewerComponents/parameters/iparameter.h
+        include/ZarvexViewerComponents/featuretree/featuretreewidget.h)
     if(NOT EXISTS "${prefix}/${expected}")
         message(FATAL_ERROR "not installed: ${expected}")
     endif()

@@ -1,0 +1,351 @@
+#include "featuretreeview.h"
+
+#include "favoritesdata.h"
+#include "featuretreedelegate.h"
+#include "featuretreeitem.h"
+#include "featuretreemodel.h"
+#include "featuretreeproxymodel.h"
+#include "ifeaturetreemodelextension.h"
+#include "messages/exceptionlogging.h"
+#include "signalblocker.h"
+
+#include <QPainter>
+
+#include <exception>
+
+FeatureTreeView::FeatureTreeView(QWidget* parent)
+    : QTreeView(parent)
+    , m_visibility(GenApi::Guru)
+{
+    // A disabled tree keeps its ordinary background.
+    QPalette pal = palette();
+    pal.setBrush(QPalette::Disabled, QPalette::Base, pal.brush(QPalette::Active, QPalette::Base));
+    setPalette(pal);
+
+    createModel();
+
+    connect(this, SIGNAL(expanded(QModelIndex)), this, SLOT(onSelfExpanded(QModelIndex)));
+    connect(this, SIGNAL(collapsed(QModelIndex)), this, SLOT(onSelfCollapsed(QModelIndex)));
+
+    viewport()->setAcceptDrops(true);
+    setDropIndicatorShown(true);
+
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
+        if (FavoritesData* favorites = extension->GetFavorites()) {
+            favorites->InitOnce(QStringLiteral("Favorites"));
+            favorites->Register(this);
+        }
+    }
+}
+
+FeatureTreeView::~FeatureTreeView()
+{
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
+        if (FavoritesData* favorites = extension->GetFavorites())
+            favorites->Deregister(this);
+    }
+    // Model and proxy have no parent, so the view deletes them, and only now:
+    // Deregister() above reaches the store through the extension, and saving
+    // the favourites there must not meet a model that is already gone. The
+    // view lets go of the proxy first, so that no signal of the dying models
+    // reaches a half-destroyed view, then deletes the proxy before its source.
+    setModel(nullptr);
+    delete m_ownedProxy;
+    delete m_ownedModel;
+}
+
+void FeatureTreeView::createModel()
+{
+    auto* model = new FeatureTreeModel();
+    auto* proxy = new FeatureTreeProxyModel();
+    m_ownedModel = model;
+    m_ownedProxy = proxy;
+    proxy->setSourceModel(model);
+    setModel(proxy);
+    proxy->setDynamicSortFilter(false);
+    proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    proxy->setFilterKeyColumn(1);
+    proxy->setHighlighter(&m_highlighter);
+    setItemDelegate(new FeatureTreeDelegate(this, proxy, &m_highlighter));
+}
+
+IFeatureTreeModelExtension* FeatureTreeView::getFeatureExtension()
+{
+    return dynamic_cast<IFeatureTreeModelExtension*>(model());
+}
+
+const IFeatureTreeModelExtension* FeatureTreeView::getFeatureExtension() const
+{
+    return dynamic_cast<const IFeatureTreeModelExtension*>(model());
+}
+
+FeatureTreeHighlighter* FeatureTreeView::getHightlighter()
+{
+    return &m_highlighter;
+}
+
+void FeatureTreeView::setSettingsPath(QString const& path)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (!extension || !extension->GetFavorites())
+        return;
+    extension->GetFavorites()->setSettingsPath(path);
+}
+
+QString FeatureTreeView::getSettingsPath() const
+{
+    // GetFavorites() is not const on the extension; the store itself is process-wide.
+    auto* extension = const_cast<IFeatureTreeModelExtension*>(getFeatureExtension());
+    if (!extension || !extension->GetFavorites())
+        return QString();
+    return extension->GetFavorites()->getSettingsPath();
+}
+
+void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (!extension)
+        return;
+    FeatureTreeItem* item = extension->getFeatureTreeItem(index);
+    if (!item || !extension->findItem(item, nullptr, 0).isValid())
+        return;
+    if (!item->usePersistentEditor())
+        return;
+    if (item->getVisibility() > m_visibility)
+        return;
+    if (item->getAccessMode() <= GenApi::NA)
+        return;
+    QAbstractItemView::openPersistentEditor(index);
+}
+
+void FeatureTreeView::openPersistentEditorsForChildren(QModelIndex const& parent)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (!extension || !model() || !isExpanded(parent))
+        return;
+    const int rows = model()->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex child = model()->index(row, 1, parent);
+        FeatureTreeItem* item = extension->getFeatureTreeItem(child);
+        if (item && item->ShowMe(m_visibility) && !indexWidget(child) && item->usePersistentEditor())
+            openPersistentEditor(child);
+    }
+}
+
+void FeatureTreeView::hideRow(int row, QModelIndex const& parent)
+{
+    const QModelIndex current = currentIndex();
+    setRowHidden(row, parent, true);
+    // The host must drop a parameter that has gone out of sight.
+    if (current.isValid() && current.row() == row && current.parent() == parent)
+        emit onCurrentChanged(QModelIndex());
+}
+
+void FeatureTreeView::updateRows(QModelIndex const& parent)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (!extension || !model() || !isExpanded(parent))
+        return;
+    const int rows = model()->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex child = model()->index(row, 1, parent);
+        if (FeatureTreeItem* item = extension->getFeatureTreeItem(child)) {
+            if (item->ShowMe(m_visibility)) {
+                if (isRowHidden(row, parent))
+                    setRowHidden(row, parent, false);
+                if (!indexWidget(child) && item->usePersistentEditor())
+                    openPersistentEditor(child);
+            } else if (!isRowHidden(row, parent)) {
+                hideRow(row, parent);
+            }
+        }
+        // On the column-1 index: a deeper level is handled when it is expanded.
+        updateRows(child);
+    }
+}
+
+void FeatureTreeView::rowsInserted(QModelIndex const& parent, int start, int end)
+{
+    QTreeView::rowsInserted(parent, start, end);
+    openPersistentEditorsForChildren(parent);
+}
+
+void FeatureTreeView::currentChanged(QModelIndex const& current, QModelIndex const& previous)
+{
+    emit onCurrentChanged(current);
+    QTreeView::currentChanged(current, previous);
+}
+
+void FeatureTreeView::onSelfExpanded(QModelIndex const& index)
+{
+    updateRows(index);
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
+        if (index == extension->GetFavoritesRootIndex() && extension->GetFavorites())
+            extension->GetFavorites()->setExpanded(true);
+    }
+    openPersistentEditorsForChildren(index);
+}
+
+void FeatureTreeView::onSelfCollapsed(QModelIndex const& index)
+{
+    // The editors of a collapsed branch stay open.
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
+        if (index == extension->GetFavoritesRootIndex() && extension->GetFavorites())
+            extension->GetFavorites()->setExpanded(false);
+    }
+}
+
+void FeatureTreeView::onFavoriteDataExpanded(bool bExpand)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (!extension)
+        return;
+    const QModelIndex root = extension->GetFavoritesRootIndex();
+    if (bExpand && !isExpanded(root))
+        expand(root);
+    else if (!bExpand && isExpanded(root))
+        collapse(root);
+}
+
+void FeatureTreeView::onFavoriteDataUpdated()
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (!extension)
+        return;
+
+    // Names, not indexes, carry the selection across the rebuild.
+    QString currentName;
+    const QModelIndex current = currentIndex();
+    if (current.isValid())
+        currentName = current.data(FeatureTreeItem::FullNameRole).toString();
+    QStringList selectedNames;
+    const QModelIndexList selected = selectedIndexes();
+    for (const QModelIndex& index : selected)
+        selectedNames << (index.isValid() ? index.data(FeatureTreeItem::FullNameRole).toString() : QString());
+
+    extension->rebuildFavoriteItems();
+
+    if (QItemSelectionModel* selection = selectionModel()) {
+        for (const QString& name : qAsConst(selectedNames)) {
+            const QModelIndex index = extension->findItemByFullName(name, nullptr, 0);
+            if (index.isValid())
+                selection->select(index, QItemSelectionModel::Select);
+        }
+    }
+    if (!currentName.isEmpty()) {
+        const QModelIndex index = extension->findItemByFullName(currentName, nullptr, 0);
+        if (index.isValid())
+            setCurrentIndex(index);
+    }
+
+    const QModelIndex favoritesRoot = extension->GetFavoritesRootIndex();
+    updateRows(favoritesRoot);
+    if (extension->GetFavorites() && extension->GetFavorites()->getExpanded())
+        expand(favoritesRoot);
+    else
+        collapse(favoritesRoot);
+}
+
+void FeatureTreeView::setVisibility(GenApi::EVisibility visibility)
+{
+    // One pointer for all views: the model of the last effective call.
+    static const QAbstractItemModel* lastModel = nullptr;
+    if (visibility == m_visibility && model() == lastModel)
+        return;
+    m_visibility = visibility;
+    lastModel = model();
+    if (model()) {
+        onFavoriteDataUpdated();
+        if (IFeatureTreeModelExtension* extension = getFeatureExtension())
+            extension->refresh();
+    }
+}
+
+void FeatureTreeView::dataChanged(QModelIndex const& topLeft, QModelIndex const& bottomRight, QVector<int> const& roles)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (extension && topLeft == bottomRight) {
+        try {
+            const QModelIndex parent = topLeft.parent();
+            const int row = topLeft.row();
+            if (topLeft.isValid())
+                setFirstColumnSpanned(row, parent, topLeft.data(FeatureTreeItem::IsFullRowRole).toBool());
+            FeatureTreeItem* item = extension->getFeatureTreeItem(topLeft);
+            if (topLeft.isValid() && topLeft.column() == 1) {
+                if (item) {
+                    const bool show = item->ShowMe(m_visibility);
+                    if (show && isRowHidden(row, parent))
+                        setRowHidden(row, parent, false);
+                    else if (!show && !isRowHidden(row, parent))
+                        hideRow(row, parent);
+
+                    const GenApi::EAccessMode access = item->getAccessMode();
+                    const bool hidden = isRowHidden(row, parent);
+                    const bool editable = item->isEditable();
+                    QWidget* widget = indexWidget(topLeft);
+                    const bool persistent = item->usePersistentEditor();
+                    if (widget && persistent) {
+                        if (hidden || access <= GenApi::NA)
+                            closePersistentEditor(topLeft);
+                    } else if (widget) {
+                        if (hidden || !editable)
+                            closeEditor(widget, QAbstractItemDelegate::NoHint);
+                    } else if (access > GenApi::NA && !hidden && persistent) {
+                        openPersistentEditor(topLeft);
+                    }
+                }
+            } else if (item && item->getFullName() == QLatin1String("Dummy")) {
+                // The help line of an empty favourites list spans the row.
+                setFirstColumnSpanned(0, parent, true);
+            }
+        } catch (const std::exception& e) {
+            ZVC_LOGGER.warning("Failed to access the node");
+            ExceptionLogging::logException(Q_FUNC_INFO, e);
+        } catch (...) {
+            ZVC_LOGGER.warning("Failed to access the node");
+            ExceptionLogging::logUnspecifiedException(Q_FUNC_INFO);
+        }
+    }
+    executeDelayedItemsLayout();
+    QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
+QStyleOptionViewItem FeatureTreeView::viewOptions() const
+{
+    QStyleOptionViewItem options = QTreeView::viewOptions();
+    const QBrush transparent(QColor(0, 0, 0, 0));
+    QColor activeText = options.palette.color(QPalette::Active, QPalette::Text);
+    activeText.setAlpha(128);
+    options.palette.setBrush(QPalette::Active, QPalette::HighlightedText, QBrush(activeText));
+    options.palette.setBrush(QPalette::Active, QPalette::Highlight, transparent);
+    for (QPalette::ColorGroup group : { QPalette::Disabled, QPalette::Inactive }) {
+        options.palette.setBrush(
+            group, QPalette::HighlightedText, QBrush(options.palette.color(group, QPalette::Text)));
+        options.palette.setBrush(group, QPalette::Highlight, transparent);
+    }
+    return options;
+}
+
+void FeatureTreeView::drawRow(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const
+{
+    // A selected row is painted as an unselected one; the selection shows
+    // through the palette of viewOptions() only.
+    QItemSelectionModel* selection = selectionModel();
+    SignalBlocker blocker(selection);
+    const bool wasSelected = selection && selection->isSelected(index);
+    if (wasSelected)
+        selection->select(index, QItemSelectionModel::Deselect);
+    QTreeView::drawRow(painter, option, index);
+    if (wasSelected)
+        selection->select(index, QItemSelectionModel::Select);
+}
+
+void FeatureTreeView::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (model() && model()->rowCount(rootIndex()) > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Active, QPalette::Text));
+    painter.drawText(rect(), Qt::AlignHCenter | Qt::AlignTop, tr("No search results found."));
+}
