@@ -113,22 +113,13 @@ std::function<void(QWidget*, bool)> editorFill(const Snapshots& data)
     };
 }
 
-QWidget* spinAndSlider(QWidget* parent)
+//! A spin box of the given class beside a slider, in a layout as the combo sliders have it.
+template <typename SpinBox> QWidget* spinAndSlider(QWidget* parent)
 {
     auto* widget = new QWidget(parent);
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 1, 0, 1);
-    layout->addWidget(new QSpinBox);
-    layout->addWidget(new QSlider(Qt::Horizontal), 10);
-    return widget;
-}
-
-QWidget* doubleSpinAndSlider(QWidget* parent)
-{
-    auto* widget = new QWidget(parent);
-    auto* layout = new QHBoxLayout(widget);
-    layout->setContentsMargins(0, 1, 0, 1);
-    layout->addWidget(new QDoubleSpinBox);
+    layout->addWidget(new SpinBox);
     layout->addWidget(new QSlider(Qt::Horizontal), 10);
     return widget;
 }
@@ -216,7 +207,7 @@ int main(int argc, char** argv)
                 edit->setToolTip(QStringLiteral("Range: %1..%2").arg(0).arg(1000));
             } },
         { "IntSliderEditor", "QSpinBox+QSlider", [](QWidget* p) { return new IntSliderEditor(p); }, editorFill(width),
-            spinAndSlider,
+            spinAndSlider<QSpinBox>,
             [](QWidget* w, bool second) {
                 auto* spin = w->findChild<QSpinBox*>();
                 auto* slider = w->findChild<QSlider*>();
@@ -239,7 +230,7 @@ int main(int argc, char** argv)
             } },
         { "FloatSliderEditor", "QDoubleSpinBox+QSlider",
             [nodeMap](QWidget* p) { return new FloatSliderEditor(nodeMap, p); }, editorFill(exposure),
-            doubleSpinAndSlider,
+            spinAndSlider<QDoubleSpinBox>,
             [](QWidget* w, bool second) {
                 auto* spin = w->findChild<QDoubleSpinBox*>();
                 auto* slider = w->findChild<QSlider*>();

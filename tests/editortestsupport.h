@@ -156,6 +156,28 @@ inline QRegularExpression secondLine(const char* function, int faultKind)
     return QRegularExpression(QStringLiteral("^%1 : +Exception occurred:\\n").arg(QLatin1String(function)));
 }
 
+//! The second line for a std::exception whose text begins with description (any text if empty).
+inline QRegularExpression exceptionLine(const char* function, const QString& description = QString())
+{
+    return QRegularExpression(QStringLiteral("^%1 : +Exception occurred:\\n +").arg(QLatin1String(function))
+        + QRegularExpression::escape(description));
+}
+
+/*!
+ * Rows of the columns "kind" and "operation" (both int): each kind of fault
+ * on each of the operations, named after both.
+ */
+inline void addFaultRows(const QList<QPair<QString, Simulation::Operation>>& operations)
+{
+    const int kinds[] = { int(Simulation::FaultKind::GenICam), int(Simulation::FaultKind::StdException),
+        int(Simulation::FaultKind::NonStdException) };
+    const char* const kindNames[] = { "GenICam", "std::exception", "non-standard" };
+    for (const auto& operation : operations)
+        for (int k = 0; k < 3; ++k)
+            QTest::newRow(qPrintable(QStringLiteral("%1, %2").arg(operation.first, QLatin1String(kindNames[k]))))
+                << kinds[k] << int(operation.second);
+}
+
 //! The three kinds of fault as data rows, with their names.
 inline void addFaultKindRows(const char* prefix = "")
 {

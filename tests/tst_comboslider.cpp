@@ -1,4 +1,5 @@
 #include "featuretree/comboslider.h"
+#include "featuretree/sliderspanguard.h"
 #include "featuretree/zarvexqtspinbox.h"
 #include "valuewidgettestsupport.h"
 
@@ -47,6 +48,14 @@ struct Window
         layout->addWidget(buttons);
         dialog.resize(400, 120);
     }
+
+    //! Sets range, step and value, then shows the dialog active.
+    bool showWith(int minimum, int maximum, int step, int value)
+    {
+        combo->setRangeAndStep(minimum, maximum, step);
+        combo->setValue(value);
+        return showActive(&dialog);
+    }
 };
 
 class TestComboSlider : public QObject
@@ -69,6 +78,7 @@ private slots:
     void pageKeyThenMouseStep();
     void pageKeysUsePageStepBothWays();
     void wheelStepReachesTheSliderAtOnce();
+    void sliderKeysAndWheelEmitOnlyGridValues();
     void enableUpdateSilencesUserChanges();
     void rangeSettersEmitRangeAndNoValue_data();
     void rangeSettersEmitRangeAndNoValue();
@@ -77,6 +87,8 @@ private slots:
     void toolTip();
     void propertiesReadTheSlider();
     void wholeIntRangeSnapsDown();
+    void survivesRangesQtCannotPaint_data();
+    void survivesRangesQtCannotPaint();
 };
 
 void TestComboSlider::initialState()
@@ -214,9 +226,7 @@ void TestComboSlider::dragEmitsOnlyGridValues()
 
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(minimum, maximum, step);
-    combo.setValue(minimum);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(minimum, maximum, step, minimum));
 
     // A plain slider of the same geometry and range takes the same gesture and
     // tells which raw value the pointer ended on.
@@ -258,15 +268,12 @@ void TestComboSlider::typedValueIsSnappedWhenLeavingTheBox()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(0, 100, 5);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 5, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
     combo.theSpinBox()->setFocus();
     QVERIFY(combo.theSpinBox()->hasFocus());
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("37"));
+    retype(combo.theSpinBox(), QStringLiteral("37"));
     QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("37"));
     QCOMPARE(spy.count(), 0); // typing alone commits nothing
 
@@ -281,16 +288,12 @@ void TestComboSlider::finishingAnEditWithoutChangeEmitsNothing()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(0, 100, 5);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 5, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
     combo.theSpinBox()->setFocus();
     window.other->setFocus();
-    combo.theSpinBox()->setFocus();
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("52")); // snaps back onto 50
+    retype(combo.theSpinBox(), QStringLiteral("52")); // snaps back onto 50
     window.other->setFocus();
     QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("50"));
     QCOMPARE(spy.count(), 0);
@@ -300,15 +303,11 @@ void TestComboSlider::escapeUndoesTheEditAndStaysInside()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRange(0, 100);
-    combo.setValue(42);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 1, 42));
     QSignalSpy rejected(&window.dialog, SIGNAL(rejected()));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
-    combo.theSpinBox()->setFocus();
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("77"));
+    retype(combo.theSpinBox(), QStringLiteral("77"));
     QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("77"));
 
     QTest::keyClick(combo.theSpinBox(), Qt::Key_Escape);
@@ -326,15 +325,11 @@ void TestComboSlider::returnCommitsAndStaysInside()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRange(0, 100);
-    combo.setValue(42);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 1, 42));
     QSignalSpy accepted(&window.dialog, SIGNAL(accepted()));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
-    combo.theSpinBox()->setFocus();
-    combo.theSpinBox()->selectAll();
-    QTest::keyClicks(combo.theSpinBox(), QStringLiteral("64"));
+    retype(combo.theSpinBox(), QStringLiteral("64"));
     QTest::keyClick(combo.theSpinBox(), Qt::Key_Return);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).at(0).toInt(), 64);
@@ -395,9 +390,7 @@ void TestComboSlider::wheelStepReachesTheSliderAtOnce()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRangeAndStep(0, 100, 2);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 2, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
 
     combo.theSpinBox()->setFocus();
@@ -409,13 +402,34 @@ void TestComboSlider::wheelStepReachesTheSliderAtOnce()
     QCOMPARE(spy.last().at(0).toInt(), 48);
 }
 
+void TestComboSlider::sliderKeysAndWheelEmitOnlyGridValues()
+{
+    Window window;
+    ComboSliderProbe& combo = *window.combo;
+    QVERIFY(window.showWith(0, 100, 5, 35));
+    combo.setPageStep(7); // a page that leaves the grid
+    QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
+
+    combo.theSlider()->setFocus();
+    QTest::keyClick(combo.theSlider(), Qt::Key_PageUp); // 42, snapped to 40
+    QCOMPARE(combo.value(), 40);
+    QCOMPARE(combo.theSpinBox()->value(), 40);
+    QTest::keyClick(combo.theSlider(), Qt::Key_Right); // one single step
+    QCOMPARE(combo.value(), 45);
+    wheel(combo.theSlider(), -1); // three single steps, bounded by the page: 38, snapped to 35
+    QCOMPARE(combo.value(), 35);
+
+    QCOMPARE(spy.count(), 3);
+    QCOMPARE(spy.at(0).at(0).toInt(), 40);
+    QCOMPARE(spy.at(1).at(0).toInt(), 45);
+    QCOMPARE(spy.at(2).at(0).toInt(), 35);
+}
+
 void TestComboSlider::enableUpdateSilencesUserChanges()
 {
     Window window;
     ComboSliderProbe& combo = *window.combo;
-    combo.setRange(0, 100);
-    combo.setValue(50);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 1, 50));
     QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
     combo.theSpinBox()->setFocus();
 
@@ -569,6 +583,60 @@ void TestComboSlider::wholeIntRangeSnapsDown()
     QCOMPARE(combo.value(), highest - 1);
     combo.setValue(lowest + 3);
     QCOMPARE(combo.value(), lowest + 2);
+
+    // Every value of the range reads without group separators, the lowest one included.
+    combo.setValue(lowest);
+    QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("-2147483648"));
+    combo.setValue(highest);
+    QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("2147483646"));
+    combo.theSpinBox()->setGroupSeparatorShown(true);
+    QCOMPARE(combo.theSpinBox()->text(), QStringLiteral("2,147,483,646"));
+}
+
+void TestComboSlider::survivesRangesQtCannotPaint_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<bool>("guarded");
+
+    const int lowest = std::numeric_limits<int>::min();
+    const int highest = std::numeric_limits<int>::max();
+    QTest::newRow("-2^31..0") << lowest << 0 << true;
+    QTest::newRow("-1..2^31-1") << -1 << highest << true;
+    QTest::newRow("-2^30..2^30") << -(1 << 30) << (1 << 30) << true;
+    QTest::newRow("whole int range") << lowest << highest << false;
+    QTest::newRow("-2^31..1") << lowest << 1 << false;
+    QTest::newRow("0..100") << 0 << 100 << false;
+}
+
+void TestComboSlider::survivesRangesQtCannotPaint()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(bool, guarded);
+
+    Window window;
+    ComboSliderProbe& combo = *window.combo;
+    QVERIFY(window.showWith(minimum, maximum, 1, minimum));
+    auto* guard = combo.theSlider()->findChild<SliderSpanGuard*>();
+    QVERIFY(guard);
+    QCOMPARE(guard->isGuarding(), guarded);
+
+    // Painting, hovering and dragging all go through the slider's geometry.
+    QVERIFY(!window.dialog.grab().isNull());
+    QSignalSpy spy(&combo, SIGNAL(valueChanged(int)));
+    const int start = handleCentre(combo.theSlider()).x();
+    dragHandle(combo.theSlider(), { start + 10, start + 40, start + 80 });
+    QVERIFY(combo.value() > minimum);
+    QVERIFY(!spy.isEmpty());
+    QCOMPARE(spy.last().at(0).toInt(), combo.value());
+    QVERIFY(!window.dialog.grab().isNull());
+
+    // With an ordinary range the slider is back on the application's style.
+    combo.setRange(0, 100);
+    QVERIFY(!guard->isGuarding());
+    QCOMPARE(combo.theSlider()->style(), QApplication::style());
+    QVERIFY(!window.dialog.grab().isNull());
 }
 
 QTEST_MAIN(TestComboSlider)

@@ -40,6 +40,17 @@ struct Window
         layout->addWidget(other);
         window.resize(400, 80);
     }
+
+    //! Box 0..100 at 50, slider 0..1000 at 500 with the increment; shown active with the focus in the box.
+    bool focusBoxAt50(int increment)
+    {
+        combo->initControls(0.0, 100.0, 500, 0, 1000, increment);
+        combo->setValue(50.0);
+        if (!showActive(&window))
+            return false;
+        combo->theSpinBox()->setFocus();
+        return combo->theSpinBox()->hasFocus();
+    }
 };
 
 class TestDoubleComboSlider : public QObject
@@ -66,6 +77,7 @@ private slots:
     void trimSliderValue();
     void focusAndStepsDriveUpdateEnabled();
     void properties();
+    void survivesRangesQtCannotPaint();
 };
 
 void TestDoubleComboSlider::initialState()
@@ -151,11 +163,7 @@ void TestDoubleComboSlider::cursorKeysStepByTheIncrement()
 
     Window window;
     DoubleComboSliderProbe& combo = *window.combo;
-    combo.initControls(0.0, 100.0, 500, 0, 1000, increment);
-    combo.setValue(50.0);
-    QVERIFY(showActive(&window.window));
-
-    combo.theSpinBox()->setFocus();
+    QVERIFY(window.focusBoxAt50(increment));
     QTest::keyClick(combo.theSpinBox(), Qt::Key(key));
     QCOMPARE(combo.intValue(), expected);
     QCOMPARE(combo.value(), 50.0); // the box is left to the derived class
@@ -165,11 +173,7 @@ void TestDoubleComboSlider::wheelMovesOnlyTheSlider()
 {
     Window window;
     DoubleComboSliderProbe& combo = *window.combo;
-    combo.initControls(0.0, 100.0, 500, 0, 1000, 3);
-    combo.setValue(50.0);
-    QVERIFY(showActive(&window.window));
-
-    combo.theSpinBox()->setFocus();
+    QVERIFY(window.focusBoxAt50(3));
     wheel(combo.theSpinBox(), 1);
     QCOMPARE(combo.intValue(), 503);
     wheel(combo.theSpinBox(), -2);
@@ -343,11 +347,7 @@ void TestDoubleComboSlider::focusAndStepsDriveUpdateEnabled()
 {
     Window window;
     DoubleComboSliderProbe& combo = *window.combo;
-    combo.initControls(0.0, 100.0, 500, 0, 1000, 1);
-    combo.setValue(50.0);
-    QVERIFY(showActive(&window.window));
-
-    combo.theSpinBox()->setFocus();
+    QVERIFY(window.focusBoxAt50(1));
     QVERIFY(combo.boxHasFocus());
     QVERIFY(!combo.isUpdateEnabled());
     QTest::keyClick(combo.theSpinBox(), Qt::Key_Up);
@@ -382,6 +382,23 @@ void TestDoubleComboSlider::properties()
     QCOMPARE(combo.property("intIncrement").toInt(), 4);
     QCOMPARE(combo.property("editBoxWidth").toInt(), 111);
     QCOMPARE(combo.theSpinBox()->minimumWidth(), 111);
+}
+
+void TestDoubleComboSlider::survivesRangesQtCannotPaint()
+{
+    Window window;
+    DoubleComboSliderProbe& combo = *window.combo;
+    combo.initControls(0.0, 1.0, 0, std::numeric_limits<int>::min(), 0, 1);
+    combo.setIntValue(std::numeric_limits<int>::min());
+    QVERIFY(showActive(&window.window));
+    QVERIFY(!window.window.grab().isNull());
+    const int start = handleCentre(combo.theSlider()).x();
+    dragHandle(combo.theSlider(), { start + 30, start + 60 });
+    QVERIFY(combo.intValue() > std::numeric_limits<int>::min());
+
+    combo.setIntMinimum(-1);
+    combo.setIntMaximum(std::numeric_limits<int>::max());
+    QVERIFY(!window.window.grab().isNull());
 }
 
 QTEST_MAIN(TestDoubleComboSlider)

@@ -50,6 +50,13 @@ struct Window
         layout->addWidget(buttons);
         dialog.resize(300, 120);
     }
+
+    //! Sets range, value and increment, then shows the dialog active.
+    bool showWith(double minimum, double maximum, double value, double increment)
+    {
+        box->initControls(minimum, maximum, value, increment);
+        return showActive(&dialog);
+    }
 };
 
 class TestDoubleSpinBox : public QObject
@@ -123,8 +130,7 @@ void TestDoubleSpinBox::pureNumberHasNoButtons()
 void TestDoubleSpinBox::wheelOnlyReportsSteps()
 {
     Window window;
-    window.box->initControls(0, 100, 50, 1);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 50, 1));
     QSignalSpy steps(window.box->theSpinBox(), SIGNAL(stepTriggered(int)));
     QSignalSpy values(window.box->theSpinBox(), SIGNAL(valueChanged(double)));
 
@@ -153,8 +159,7 @@ void TestDoubleSpinBox::keysOnlyReportSteps()
     QFETCH(int, key);
     QFETCH(int, expected);
     Window window;
-    window.box->initControls(0, 100, 50, 1);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 50, 1));
     QSignalSpy steps(window.box->theSpinBox(), SIGNAL(stepTriggered(int)));
 
     window.box->theSpinBox()->setFocus();
@@ -168,8 +173,7 @@ void TestDoubleSpinBox::keysOnlyReportSteps()
 void TestDoubleSpinBox::heldButtonRepeatsSteps()
 {
     Window window;
-    window.box->initControls(0, 100, 50, 1);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 50, 1));
     QSignalSpy steps(window.box->theSpinBox(), SIGNAL(stepTriggered(int)));
 
     ZarvexQtDoubleSpinBox* spin = window.box->theSpinBox();
@@ -384,14 +388,11 @@ void TestDoubleSpinBox::focusDrivesUpdateEnabled()
 void TestDoubleSpinBox::escapeUndoesTheEditAndStaysInside()
 {
     Window window;
-    window.box->initControls(0, 100, 42.5, 0.5);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 42.5, 0.5));
     QSignalSpy rejected(&window.dialog, SIGNAL(rejected()));
     ZarvexQtDoubleSpinBox* spin = window.box->theSpinBox();
 
-    spin->setFocus();
-    spin->selectAll();
-    QTest::keyClicks(spin, QStringLiteral("77.25"));
+    retype(spin, QStringLiteral("77.25"));
     QCOMPARE(spin->text(), QStringLiteral("77.25"));
     QTest::keyClick(spin, Qt::Key_Escape);
     QCOMPARE(spin->text(), QStringLiteral("42.50"));
@@ -403,15 +404,12 @@ void TestDoubleSpinBox::escapeUndoesTheEditAndStaysInside()
 void TestDoubleSpinBox::returnStaysInside()
 {
     Window window;
-    window.box->initControls(0, 100, 42.5, 0.5);
-    QVERIFY(showActive(&window.dialog));
+    QVERIFY(window.showWith(0, 100, 42.5, 0.5));
     QSignalSpy accepted(&window.dialog, SIGNAL(accepted()));
     ZarvexQtDoubleSpinBox* spin = window.box->theSpinBox();
     QSignalSpy finished(spin, SIGNAL(editingFinished()));
 
-    spin->setFocus();
-    spin->selectAll();
-    QTest::keyClicks(spin, QStringLiteral("12.5"));
+    retype(spin, QStringLiteral("12.5"));
     QTest::keyClick(spin, Qt::Key_Return);
     QCOMPARE(finished.count(), 1);
     QCOMPARE(window.box->value(), 12.5);

@@ -113,6 +113,7 @@ private slots:
     void liveLimitsUnreadable();
     void refusesOtherKinds_data();
     void refusesOtherKinds();
+    void notReadable_data();
     void notReadable();
     void stepFaults_data();
     void stepFaults();
@@ -409,11 +410,8 @@ void TestFloatEditor::liveLimitsUnreadable_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("operation");
-    const int kinds[] = { int(FaultKind::GenICam), int(FaultKind::StdException), int(FaultKind::NonStdException) };
-    for (int kind : kinds) {
-        QTest::newRow(qPrintable(QStringLiteral("minimum %1").arg(kind))) << kind << int(Operation::GetMinimum);
-        QTest::newRow(qPrintable(QStringLiteral("maximum %1").arg(kind))) << kind << int(Operation::GetMaximum);
-    }
+    EditorTest::addFaultRows(
+        { { QStringLiteral("minimum"), Operation::GetMinimum }, { QStringLiteral("maximum"), Operation::GetMaximum } });
 }
 
 void TestFloatEditor::liveLimitsUnreadable()
@@ -460,29 +458,37 @@ void TestFloatEditor::refusesOtherKinds()
     QCOMPARE(editor.maximum(), 24.0);
 }
 
+void TestFloatEditor::notReadable_data()
+{
+    QTest::addColumn<int>("kind");
+    EditorTest::addFaultKindRows();
+}
+
 void TestFloatEditor::notReadable()
 {
+    QFETCH(int, kind);
     OpenFloatEditor editor;
     editor.setEditorData(EditorTest::editorDataOf(m_device, QStringLiteral("Gain")));
     QTest::ignoreMessage(QtDebugMsg, "Non-readable comboBox: HiddenFloat");
     editor.setEditorData(EditorTest::editorDataOf(m_device, QStringLiteral("HiddenFloat")));
     QCOMPARE(editor.box()->value(), 1.5);
 
-    m_device->injectFault(QStringLiteral("@CameraDevice/HiddenFloat"), Operation::GetName, FaultKind::StdException);
+    // The name for that line can't be had: the outer handler reports it.
+    m_device->injectFault(QStringLiteral("@CameraDevice/HiddenFloat"), Operation::GetName, FaultKind(kind));
+    EditorTest::LogRecord log;
     QTest::ignoreMessage(QtWarningMsg, "Failed to retrieve a node's name");
-    QTest::ignoreMessage(QtWarningMsg, EditorTest::secondLine("setEditorData", int(FaultKind::StdException)));
+    QTest::ignoreMessage(QtWarningMsg, EditorTest::secondLine("setEditorData", kind));
     editor.setEditorData(EditorTest::editorDataOf(m_device, QStringLiteral("HiddenFloat")));
+    QCOMPARE(log.count(), 2);
+    QCOMPARE(editor.box()->value(), 1.5);
 }
 
 void TestFloatEditor::stepFaults_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("operation");
-    const int kinds[] = { int(FaultKind::GenICam), int(FaultKind::StdException), int(FaultKind::NonStdException) };
-    for (int kind : kinds) {
-        QTest::newRow(qPrintable(QStringLiteral("getValue %1").arg(kind))) << kind << int(Operation::GetValue);
-        QTest::newRow(qPrintable(QStringLiteral("setValue %1").arg(kind))) << kind << int(Operation::SetValue);
-    }
+    EditorTest::addFaultRows(
+        { { QStringLiteral("getValue"), Operation::GetValue }, { QStringLiteral("setValue"), Operation::SetValue } });
 }
 
 void TestFloatEditor::stepFaults()

@@ -131,6 +131,7 @@ private slots:
     void initialisesFromFloatAndAlias();
     void modeByNameAndRepresentation_data();
     void modeByNameAndRepresentation();
+    void exposureTimeInLinearRepresentation();
     void aliasThatIsAFloat();
     void aliasIncrementZeroIsRefused();
     void logarithmicAliasFromZero();
@@ -230,6 +231,21 @@ void TestFloatSliderEditor::modeByNameAndRepresentation()
         QCOMPARE(editor.theSlider()->maximum(), 100000);
 }
 
+void TestFloatSliderEditor::exposureTimeInLinearRepresentation()
+{
+    const auto device = TreeTest::makeDevice(TreeTest::cameraJson(R"(
+        { "name": "Root", "type": "Category", "children": ["ExposureTime"] },
+        { "name": "ExposureTime", "type": "Float", "representation": "Linear", "alias": true, "precision": 1,
+          "value": 5000.0, "min": 20.0, "max": 1000000.0 })"));
+    QVERIFY(device);
+    OpenFloatSliderEditor editor(device->nodeMap(QStringLiteral("@CameraDevice")));
+    editor.setEditorData(EditorTest::editorDataOf(device, QStringLiteral("ExposureTime")));
+    QVERIFY(editor.isInitialized());
+    QCOMPARE(editor.mode(), TwoModeDoubleComboSlider::ModeLinear);
+    QCOMPARE(editor.theSlider()->maximum(), 1000000);
+    QCOMPARE(editor.theSlider()->value(), 5000);
+}
+
 void TestFloatSliderEditor::aliasThatIsAFloat()
 {
     QSharedPointer<SubstitutingCollection> collection(new SubstitutingCollection(nodeMap()));
@@ -239,8 +255,7 @@ void TestFloatSliderEditor::aliasThatIsAFloat()
     QTest::ignoreMessage(QtDebugMsg, "Alias node is not of type integer.");
     QTest::ignoreMessage(QtWarningMsg, "Gain: Failed to update the float value editor comboBox!");
     QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(
-            QStringLiteral("^setEditorData : +Exception occurred:\\n +Could not retrieve an alias node on pNode")));
+        EditorTest::exceptionLine("setEditorData", QStringLiteral("Could not retrieve an alias node on pNode")));
     editor.setEditorData(dataOf(QStringLiteral("Gain")));
     QCOMPARE(log.count(), 3);
     QVERIFY(!editor.isInitialized());
@@ -266,8 +281,8 @@ void TestFloatSliderEditor::aliasIncrementZeroIsRefused()
     OpenFloatSliderEditor editor(collection);
     const int decimalsBefore = editor.decimals();
     QTest::ignoreMessage(QtWarningMsg, "ExposureDelay: Failed to update the float value editor comboBox!");
-    QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(QStringLiteral("^setEditorData : +Exception occurred:\\n +The alias increment cannot be")));
+    QTest::ignoreMessage(
+        QtWarningMsg, EditorTest::exceptionLine("setEditorData", QStringLiteral("The alias increment cannot be")));
     editor.setEditorData(dataOf(QStringLiteral("ExposureDelay")));
     // initControls ran before the refusal: both ranges are in place, the rest of the update is not.
     QVERIFY(editor.isInitialized());
@@ -285,8 +300,7 @@ void TestFloatSliderEditor::aliasIncrementZeroIsRefused()
     narrower->maximum = 500;
     QTest::ignoreMessage(QtWarningMsg, "ExposureDelay: Failed to update the float value editor slider!");
     QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(
-            QStringLiteral("^onAliasParameterDataChanged : +Exception occurred:\\n +The alias increment cannot be")));
+        EditorTest::exceptionLine("onAliasParameterDataChanged", QStringLiteral("The alias increment cannot be")));
     editor.aliasChanged(narrower);
     QCOMPARE(editor.intMaximum(), 1000);
     QCOMPARE(editor.increment(), 1);
@@ -481,9 +495,7 @@ void TestFloatSliderEditor::rangeErrors()
     bad->value = value;
     EditorTest::LogRecord log;
     QTest::ignoreMessage(QtWarningMsg, "ExposureDelay: Failed to update the float value editor comboBox!");
-    QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(
-            QStringLiteral("^setEditorData : +Exception occurred:\\n +") + QRegularExpression::escape(message)));
+    QTest::ignoreMessage(QtWarningMsg, EditorTest::exceptionLine("setEditorData", message));
     editor.setEditorData({ data.node, bad });
     QCOMPARE(log.count(), 2);
     QCOMPARE(editor.box()->value(), 100.0);
@@ -495,9 +507,7 @@ void TestFloatSliderEditor::rangeErrors()
     badAlias->maximum = qint64(maximum);
     badAlias->value = qint64(value);
     QTest::ignoreMessage(QtWarningMsg, "ExposureDelay: Failed to update the float value editor slider!");
-    QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(QStringLiteral("^onAliasParameterDataChanged : +Exception occurred:\\n +")
-            + QRegularExpression::escape(message)));
+    QTest::ignoreMessage(QtWarningMsg, EditorTest::exceptionLine("onAliasParameterDataChanged", message));
     editor.aliasChanged(badAlias);
     QCOMPARE(editor.intMaximum(), 1000);
     QCOMPARE(editor.intValue(), 100);
@@ -545,11 +555,8 @@ void TestFloatSliderEditor::sliderWriteFaults_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("operation");
-    const int kinds[] = { int(FaultKind::GenICam), int(FaultKind::StdException), int(FaultKind::NonStdException) };
-    for (int kind : kinds) {
-        QTest::newRow(qPrintable(QStringLiteral("getValue %1").arg(kind))) << kind << int(Operation::GetValue);
-        QTest::newRow(qPrintable(QStringLiteral("setValue %1").arg(kind))) << kind << int(Operation::SetValue);
-    }
+    EditorTest::addFaultRows(
+        { { QStringLiteral("getValue"), Operation::GetValue }, { QStringLiteral("setValue"), Operation::SetValue } });
 }
 
 void TestFloatSliderEditor::sliderWriteFaults()
@@ -578,7 +585,9 @@ void TestFloatSliderEditor::lookupFaultsRetryLater_data()
     QTest::addColumn<int>("kind");
     const int kinds[] = { int(FaultKind::GenICam), int(FaultKind::StdException), int(FaultKind::NonStdException) };
     const QList<QPair<QString, int>> targets = { { QStringLiteral("@CameraDevice"), int(Operation::GetParameter) },
+        { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetName) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetFullName) },
+        { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetMaximum) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::AdvancedAccess) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetProperty) },
         { QStringLiteral("@CameraDevice/ExposureTime"), int(Operation::GetMinimum) },

@@ -1,4 +1,5 @@
 #include "editortestsupport.h"
+#include "valuewidgettestsupport.h"
 
 #include "featuretree/checkboxeditor.h"
 #include "featuretree/enumeditor.h"
@@ -78,6 +79,7 @@ private slots:
     void enumNotReadableSelectsNothing();
     void enumSnapshotWhileListIsOpenIsDropped();
     void enumClosingTheListSwallowsItsHide();
+    void enumListOpenedAndClosedByTheUser();
     void enumGivenOtherKindsEndsEmpty_data();
     void enumGivenOtherKindsEndsEmpty();
     void enumFollowsAccessChanges();
@@ -332,6 +334,30 @@ void TestSimpleEditors::enumClosingTheListSwallowsItsHide()
     popup->hide();
     QCOMPARE(counter.hides, 1);
     QVERIFY(!editor.openPopup());
+}
+
+// The user opens the list with the mouse and closes it with Escape; a
+// device update in between waits for the next one after the list is gone.
+void TestSimpleEditors::enumListOpenedAndClosedByTheUser()
+{
+    OpenEnumEditor editor;
+    const AbstractItemEditor::EditorData data = EditorTest::editorDataOf(m_device, QStringLiteral("Mode"));
+    editor.setEditorData(data);
+    QVERIFY(ValueWidgetTest::showActive(&editor));
+    QTest::mouseClick(&editor, Qt::LeftButton, Qt::NoModifier, editor.rect().center());
+    QTRY_VERIFY(editor.openPopup());
+    QVERIFY(editor.openPopup()->isVisible());
+
+    data.node->setValueFromString(QStringLiteral("Width"));
+    editor.setEditorData(EditorTest::editorDataOf(m_device, QStringLiteral("Mode")));
+    QCOMPARE(editor.editorData(), QVariant(QStringLiteral("Timed")));
+
+    QWidget* list = QApplication::focusWidget();
+    QVERIFY(list);
+    QTest::keyClick(list, Qt::Key_Escape);
+    QTRY_VERIFY(!editor.openPopup());
+    editor.setEditorData(EditorTest::editorDataOf(m_device, QStringLiteral("Mode")));
+    QCOMPARE(editor.editorData(), QVariant(QStringLiteral("Width")));
 }
 
 void TestSimpleEditors::enumGivenOtherKindsEndsEmpty_data()

@@ -44,6 +44,14 @@ inline QPoint handleCentre(QSlider* slider)
     return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider).center();
 }
 
+//! Gives the box the focus, selects its text and types text over it, as a user replacing the value does.
+inline void retype(QAbstractSpinBox* box, const QString& text)
+{
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, text);
+}
+
 //! Presses the left button on the handle, moves it horizontally through each x of path and releases it at the last.
 inline void dragHandle(QSlider* slider, const QVector<int>& path)
 {

@@ -1,5 +1,6 @@
 #include "comboslider.h"
 
+#include "sliderspanguard.h"
 #include "valuewidgetsupport.h"
 #include "zarvexqtspinbox.h"
 
@@ -32,6 +33,7 @@ ComboSlider::ComboSlider(QWidget* parent)
     , slider(new QSlider(Qt::Horizontal))
     , spinBox(new ZarvexQtSpinBox)
 {
+    new SliderSpanGuard(slider); // owned by the slider: ranges 2^31 wide would crash Qt's painting
     setEditBoxWidth(ValueWidgetSupport::layOutSpinBoxAndSlider(this, spinBox, slider));
 
     connect(slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderValueChanged(int)));

@@ -37,6 +37,9 @@ public:
     //! value clamped to the range and snapped down onto the grid.
     int trimValue(int value) const;
 
+    //! Shows the range, and the increment unless it is 1, as the widget's tool tip.
+    virtual void updateToolTip();
+
 public slots:
     virtual void setValue(int value);
     virtual void setMinimum(int min);
@@ -56,10 +59,6 @@ signals:
 protected slots:
     void onComboBoxEditingFinished();
     void onSliderValueChanged(int val);
-
-public:
-    //! Shows the range, and the increment unless it is 1, as the widget's tool tip.
-    virtual void updateToolTip();
 
 protected:
     QSlider* slider; // child

@@ -1,6 +1,7 @@
 #include "doublecomboslider.h"
 
 #include "parameters/formatdoublevalue.h"
+#include "sliderspanguard.h"
 #include "spinboxeventcatcher.h"
 #include "valuewidgetsupport.h"
 #include "zarvexqtdoublespinbox.h"
@@ -27,6 +28,7 @@ DoubleComboSlider::DoubleComboSlider(QWidget* parent)
 {
     spinBox->setAccelerated(true);
     spinBox->installEventFilter(eventCatcher);
+    new SliderSpanGuard(slider); // owned by the slider: ranges 2^31 wide would crash Qt's painting
     slider->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     setEditBoxWidth(ValueWidgetSupport::layOutSpinBoxAndSlider(this, spinBox, slider));
 

@@ -44,9 +44,12 @@ void TwoModeDoubleComboSlider::onSpinBoxEditingFinished()
 
 // ---- the mapping ------------------------------------------------------------
 
-void TwoModeDoubleComboSlider::updateLogPerPosition()
+// The slider keeps its positions; only the mapping onto them changes.
+void TwoModeDoubleComboSlider::logicalRangeChanged()
 {
     logPerPosition = (maximumLog - minimumLog) / double(sliderMaximum - sliderMinimum);
+    emit rangeChanged(logicalMinimum, logicalMaximum);
+    updateToolTip();
 }
 
 double TwoModeDoubleComboSlider::transformLogarithmic(double value)
@@ -74,9 +77,7 @@ void TwoModeDoubleComboSlider::setIntMinimum(int min)
     }
     logicalMinimum = min;
     minimumLog = std::log2(min);
-    updateLogPerPosition();
-    emit rangeChanged(logicalMinimum, logicalMaximum);
-    updateToolTip();
+    logicalRangeChanged();
 }
 
 void TwoModeDoubleComboSlider::setIntMaximum(int max)
@@ -87,9 +88,7 @@ void TwoModeDoubleComboSlider::setIntMaximum(int max)
     }
     logicalMaximum = max;
     maximumLog = std::log2(max);
-    updateLogPerPosition();
-    emit rangeChanged(logicalMinimum, logicalMaximum);
-    updateToolTip();
+    logicalRangeChanged();
 }
 
 void TwoModeDoubleComboSlider::setIntRange(int min, int max)
@@ -102,9 +101,7 @@ void TwoModeDoubleComboSlider::setIntRange(int min, int max)
     minimumLog = std::log2(min);
     logicalMaximum = max;
     maximumLog = std::log2(max);
-    updateLogPerPosition();
-    emit rangeChanged(logicalMinimum, logicalMaximum);
-    updateToolTip();
+    logicalRangeChanged();
 }
 
 int TwoModeDoubleComboSlider::intMinimum() const

@@ -65,7 +65,8 @@ private slots:
 
 protected:
     bool isLogarithmic() const;
-    void updateLogPerPosition();
+    //! Recomputes the mapping from the logical limits and reports them.
+    void logicalRangeChanged();
 
     ETwoModeDoubleComboSliderMode sliderMode;
     double minimumLog = 0.0;

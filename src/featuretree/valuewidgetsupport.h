@@ -4,6 +4,8 @@
 // box beside a slider, the key handling of their spin boxes and the guarded
 // building of their range tool tips. Internal to the library.
 
+#include "zarvexviewercomponents_export.h"
+
 #include <QString>
 
 #include <functional>
@@ -23,7 +25,7 @@ namespace ValueWidgetSupport {
  * digits with its buttons and frame in owner's style; the caller stores it as
  * its edit box width. Both widgets are adopted by the layout.
  */
-int layOutSpinBoxAndSlider(QWidget* owner, QAbstractSpinBox* spinBox, QSlider* slider);
+ZVC_AUTOTEST_EXPORT int layOutSpinBoxAndSlider(QWidget* owner, QAbstractSpinBox* spinBox, QSlider* slider);
 
 /*!
  * The key handling that both spin boxes add after the base class has seen the
@@ -31,19 +33,20 @@ int layOutSpinBoxAndSlider(QWidget* owner, QAbstractSpinBox* spinBox, QSlider* s
  * shortcut, so that it reverts the edit and goes no further; Return and Enter
  * are accepted so that they do not reach a dialog's default button.
  */
-void finishKeyPress(QKeyEvent* event, const std::function<void(QKeyEvent*)>& passToBase);
+ZVC_AUTOTEST_EXPORT void finishKeyPress(QKeyEvent* event, const std::function<void(QKeyEvent*)>& passToBase);
 
 /*!
  * Builds a tool tip with build() and sets it on every widget of targets. If
  * building throws, the widgets keep their former tool tips and the failure is
  * logged at debug level.
  */
-void setRangeToolTip(const std::function<QString()>& build, std::initializer_list<QWidget*> targets);
+ZVC_AUTOTEST_EXPORT void setRangeToolTip(
+    const std::function<QString()>& build, std::initializer_list<QWidget*> targets);
 
 /*!
  * Truncates towards zero into the int range: NaN gives 0 and values beyond
  * the range saturate, where a plain cast would be undefined.
  */
-int truncateToInt(double value);
+ZVC_AUTOTEST_EXPORT int truncateToInt(double value);
 
 } // namespace ValueWidgetSupport

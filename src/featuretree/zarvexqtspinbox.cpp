@@ -28,3 +28,13 @@ void ZarvexQtSpinBox::stepBy(int steps)
     QAbstractSpinBox::stepBy(steps);
     emit editingFinished();
 }
+
+QString ZarvexQtSpinBox::textFromValue(int value) const
+{
+    // QSpinBox leaves the separators in the lowest int, whose absolute value
+    // it cannot take; the text then no longer fits the box.
+    QString text = QSpinBox::textFromValue(value);
+    if (!isGroupSeparatorShown())
+        text.remove(locale().groupSeparator());
+    return text;
+}

@@ -18,6 +18,8 @@ public:
     explicit ZarvexQtSpinBox(QWidget* parent = nullptr);
 
     void stepBy(int steps) override;
+    //! As QSpinBox's, but -2147483648 too is shown without group separators unless they are asked for.
+    QString textFromValue(int value) const override;
 
     //! Single steps taken by one Page Up or Page Down; the owner writes it.
     int pageStep = 10;
