@@ -13,15 +13,15 @@ namespace {
 using Plugin::FeatureTree::IFeatureTreeControlService;
 using Plugin::FeatureTree::IFeatureTreeStatusService;
 
-//! What a host writes: the status service with nothing but its signals.
-class StatusService : public IFeatureTreeStatusService
+//! A host's implementation of a service, telling when it is destroyed.
+template <typename Service> class HostService : public Service
 {
 public:
-    explicit StatusService(bool* destroyed = nullptr)
+    explicit HostService(bool* destroyed = nullptr)
         : m_destroyed(destroyed)
     {
     }
-    ~StatusService() override
+    ~HostService() override
     {
         if (m_destroyed)
             *m_destroyed = true;
@@ -31,19 +31,14 @@ private:
     bool* m_destroyed;
 };
 
-//! What a host writes: the control service forwarding to its tree, here a log.
-class ControlService : public IFeatureTreeControlService
+//! The status service needs nothing but its signals.
+using StatusService = HostService<IFeatureTreeStatusService>;
+
+//! The control service forwards to its tree; here it keeps a log.
+class ControlService : public HostService<IFeatureTreeControlService>
 {
 public:
-    explicit ControlService(bool* destroyed = nullptr)
-        : m_destroyed(destroyed)
-    {
-    }
-    ~ControlService() override
-    {
-        if (m_destroyed)
-            *m_destroyed = true;
-    }
+    using HostService::HostService;
 
     void setVisibility(GenApi::EVisibility visibility) override
     {
@@ -54,9 +49,6 @@ public:
     void deviceIsClosed() override { calls << QStringLiteral("deviceIsClosed"); }
 
     QStringList calls;
-
-private:
-    bool* m_destroyed;
 };
 
 //! Stands for the feature tree widget: signals of the same signatures.

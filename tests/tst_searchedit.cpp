@@ -21,18 +21,17 @@ protected:
     void paintEvent(QPaintEvent* event) override { QLineEdit::paintEvent(event); }
 };
 
-//! Counts the paint events of the widget it watches.
-class PaintCounter : public QObject
+//! The search line, counting how often it is painted.
+class CountingEdit : public SearchEdit
 {
 public:
     int paints = 0;
 
 protected:
-    bool eventFilter(QObject*, QEvent* event) override
+    void paintEvent(QPaintEvent* event) override
     {
-        if (event->type() == QEvent::Paint)
-            ++paints;
-        return false;
+        ++paints;
+        SearchEdit::paintEvent(event);
     }
 };
 
@@ -358,23 +357,23 @@ void TestSearchEdit::hintFollowsClearActionNotText()
 
 void TestSearchEdit::setShadowDisplayStringDoesNotRepaint()
 {
-    SearchEdit edit;
+    CountingEdit edit;
     QString hint = QStringLiteral("Search (F3)");
     edit.setShadowDisplayString(hint);
     QCOMPARE(edit.shadowDisplayString(), hint);
     showInWindow(edit);
+    QTest::qWait(50);
+    edit.paints = 0;
 
-    PaintCounter counter;
-    edit.installEventFilter(&counter);
     QString other = QStringLiteral("Something else entirely");
     edit.setShadowDisplayString(other);
     QCOMPARE(edit.shadowDisplayString(), other);
     QTest::qWait(50);
-    QCOMPARE(counter.paints, 0);
+    QCOMPARE(edit.paints, 0);
 
     // A repaint asked for by anything else shows the new hint.
     edit.update();
-    QTRY_VERIFY(counter.paints > 0);
+    QTRY_VERIFY(edit.paints > 0);
 }
 
 void TestSearchEdit::sizeHintIsTheHint_data()

@@ -1,3 +1,4 @@
+#include "featuretree/featuretreewidget.h"
 #include "featuretree/treewidgetbase.h"
 
 #include <QtTest>
@@ -102,6 +103,7 @@ private slots:
     void hostileBytes();
     void hooksCarrySubclassData();
     void hookNotCalledOnRefusal();
+    void featureTreeWidgetKeepsWidthsOnly();
 };
 
 void TestTreeWidgetBase::saveStateLayout()
@@ -300,6 +302,23 @@ void TestTreeWidgetBase::hookNotCalledOnRefusal()
     QVERIFY(!widget.restoreState(blob({ 4, 2, 70 }), 4));
     QVERIFY(!widget.restoreState(blob({ 5, 2, 70, 30 }), 4));
     QCOMPARE(widget.restoreCalls, 0);
+}
+
+void TestTreeWidgetBase::featureTreeWidgetKeepsWidthsOnly()
+{
+    // The feature tree's two columns and nothing else: 16 bytes, the first
+    // column as the widget sized it.
+    FeatureTreeWidget widget;
+    const QByteArray state = widget.saveState(2);
+    QCOMPARE(state.size(), 16);
+    QCOMPARE(state.left(12), blob({ 2, 2, widget.treeView()->header()->sectionSize(0) }));
+
+    FeatureTreeWidget other;
+    other.treeView()->header()->resizeSection(0, 321);
+    QVERIFY(other.restoreState(other.saveState(2), 2));
+    QVERIFY(widget.restoreState(other.saveState(2), 2));
+    QCOMPARE(widget.treeView()->header()->sectionSize(0), 321);
+    QVERIFY(!widget.restoreState(other.saveState(2), 3));
 }
 
 QTEST_MAIN(TestTreeWidgetBase)
