@@ -79,7 +79,15 @@ int main(int argc, char** argv)
               QStringLiteral("featu"), QStringLiteral("featur"), QStringLiteral("feature"), QStringLiteral("feature0"),
               QStringLiteral("feature00"), QStringLiteral("feature001"), QStringLiteral("feature0012"), QString() };
 
-    for (const int count : { 10000, 100000 }) {
+    // Optional arguments narrow the run, for profiling: a feature count and a
+    // level name, as in "bench_featuretreeproxymodel 100000 Guru".
+    const QStringList arguments = QCoreApplication::arguments();
+    QList<int> counts = { 10000, 100000 };
+    if (arguments.size() > 1)
+        counts = { arguments.at(1).toInt() };
+    const QString onlyLevel = arguments.size() > 2 ? arguments.at(2) : QString();
+
+    for (const int count : counts) {
         SyntheticNodeMapGenerator::Options options;
         options.featureCount = count;
         options.depth = 3;
@@ -88,6 +96,8 @@ int main(int argc, char** argv)
             = SimulatedDevice::fromDescription(SyntheticNodeMapGenerator(options).generateDevice());
 
         for (const GenApi::EVisibility level : { GenApi::Beginner, GenApi::Expert, GenApi::Guru, GenApi::Invisible }) {
+            if (!onlyLevel.isEmpty() && onlyLevel != QLatin1String(levelName(level)))
+                continue;
             FeatureTreeModel model;
             FeatureTreeProxyModel proxy;
             proxy.setSourceModel(&model);

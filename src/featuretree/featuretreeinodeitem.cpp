@@ -1,6 +1,7 @@
 #include "featuretreeinodeitem.h"
 
 #include "featuretreehighlighter.h"
+#include "featuretreemodel.h"
 #include "ifeaturetreemodelextension.h"
 #include "messages/exceptionlogging.h"
 #include "nodemapname.h"
@@ -10,9 +11,72 @@
 #include "parameters/iintegerparameter.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QUuid>
+#include <QVarLengthArray>
+#include <QVector>
 
 using namespace ParameterCollection;
+
+namespace {
+
+// The items subscribed to the parameters' change signal.
+//
+// A trees of the largest cameras has 100 000 items; a connection of its own
+// from each parameter to each item cost two connection lists (the parameter's
+// as sender, the item's as receiver) and the parsing of two signatures per
+// item: about a third of the bytes of a row and much of the time to build it.
+// Instead each parameter has one connection, made on the first item that
+// subscribes and dropped with the last, to one context object that hands the
+// snapshot to the items in the order they subscribed, the tree's item before
+// its favourite twin. Delivery stays an automatic connection on the thread of
+// the items, so a signal from the parameter layer's own thread is queued as
+// before.
+struct Subscription
+{
+    QMetaObject::Connection connection;
+    FeatureTreeINodeItem* first = nullptr;
+    QVector<FeatureTreeINodeItem*> more; // a favourite twin, rarely more
+};
+
+struct Subscriptions
+{
+    QObject context;
+    QHash<const IParameter*, Subscription> byParameter;
+
+    void deliver(const IParameter* parameter, const QSharedPointer<const ParameterData>& data)
+    {
+        const auto found = byParameter.constFind(parameter);
+        if (found == byParameter.constEnd())
+            return;
+        // A copy: an item's update may reach code that subscribes or unsubscribes.
+        QVarLengthArray<FeatureTreeINodeItem*, 4> items;
+        items.append(found->first);
+        for (FeatureTreeINodeItem* item : found->more)
+            items.append(item);
+        for (FeatureTreeINodeItem* item : items) {
+            if (isSubscribed(parameter, item))
+                item->onParameterDataChanged(data);
+        }
+    }
+
+    bool isSubscribed(const IParameter* parameter, const FeatureTreeINodeItem* item) const
+    {
+        const auto found = byParameter.constFind(parameter);
+        return found != byParameter.constEnd()
+            && (found->first == item || found->more.contains(const_cast<FeatureTreeINodeItem*>(item)));
+    }
+};
+
+Subscriptions& subscriptions()
+{
+    // Made on the thread of the first item, which is the thread of the widgets,
+    // and kept to the end of the process: items may be freed as late as that.
+    static Subscriptions* const instance = new Subscriptions;
+    return *instance;
+}
+
+} // namespace
 
 FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
     QSharedPointer<IParameter> node, const QString& displayedName, IFeatureTreeModelExtension* extension,
@@ -37,12 +101,8 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
 {
     initInternal();
     try {
-        if (m_node && !m_node->isZombie()) {
-            connect(m_node.data(),
-                SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)), this,
-                SLOT(onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)),
-                Qt::AutoConnection);
-        }
+        if (m_node && !m_node->isZombie())
+            subscribe();
     } catch (...) {
         // A zombie test that throws leaves the item unsubscribed, showing what it cached.
         ExceptionLogging::logCurrentException("FeatureTreeINodeItem", QStringLiteral("Failed to subscribe to a node"));
@@ -52,7 +112,44 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
 
 FeatureTreeINodeItem::~FeatureTreeINodeItem()
 {
+    unsubscribe();
     clearChildren();
+}
+
+void FeatureTreeINodeItem::subscribe()
+{
+    Subscriptions& all = subscriptions();
+    IParameter* parameter = m_node.data();
+    Subscription& subscription = all.byParameter[parameter];
+    if (!subscription.first) {
+        subscription.first = this;
+        subscription.connection = connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
+            [parameter](QSharedPointer<const ParameterData> data) { subscriptions().deliver(parameter, data); });
+    } else {
+        subscription.more.append(this);
+    }
+    m_subscribed = true;
+}
+
+void FeatureTreeINodeItem::unsubscribe()
+{
+    if (!m_subscribed)
+        return;
+    m_subscribed = false;
+    Subscriptions& all = subscriptions();
+    const auto found = all.byParameter.find(m_node.data());
+    if (found == all.byParameter.end())
+        return;
+    if (found->first == this) {
+        if (found->more.isEmpty()) {
+            QObject::disconnect(found->connection);
+            all.byParameter.erase(found);
+            return;
+        }
+        found->first = found->more.takeFirst();
+    } else {
+        found->more.removeOne(this);
+    }
 }
 
 void FeatureTreeINodeItem::initInternal()
@@ -119,15 +216,7 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
         if (column == 0) {
             switch (role) {
             case Qt::DisplayRole:
-                if (m_unit.isEmpty())
-                    return m_displayedName;
-                // Painting and every search pass ask for this text: build it once
-                // per displayed name instead of on every request.
-                if (m_titleWithUnit.isNull() || m_titleBuiltFrom != m_displayedName) {
-                    m_titleBuiltFrom = m_displayedName;
-                    m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
-                }
-                return m_titleWithUnit;
+                return displayText();
             case Qt::ToolTipRole:
                 return toolTip();
             case Qt::ForegroundRole:
@@ -177,6 +266,19 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
         ExceptionLogging::logCurrentException("data", QStringLiteral("Exception fired when trying to access a node"));
         return QStringLiteral("<error!>");
     }
+}
+
+const QString& FeatureTreeINodeItem::displayText() const
+{
+    if (m_unit.isEmpty())
+        return m_displayedName;
+    // Painting and every search pass ask for this text: build it once
+    // per displayed name instead of on every request.
+    if (m_titleWithUnit.isNull() || m_titleBuiltFrom != m_displayedName) {
+        m_titleBuiltFrom = m_displayedName;
+        m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+    }
+    return m_titleWithUnit;
 }
 
 QVariant FeatureTreeINodeItem::valueDisplayText() const
@@ -428,5 +530,10 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         return;
     }
     m_parameterData = data;
-    emit nodeUpdated(row(), this);
+    const int itemRow = row();
+    // The model that built the item learns first, as a connection made when the
+    // item was built would, and not while the item's signals are blocked.
+    if (m_model && !signalsBlocked())
+        m_model->onNodeUpdated(itemRow, this);
+    emit nodeUpdated(itemRow, this);
 }

@@ -4,6 +4,7 @@
 #include "zarvexviewercomponents_export.h"
 
 #include <QHash>
+#include <QRegExp>
 #include <QSortFilterProxyModel>
 
 class FeatureTreeModel;
@@ -96,10 +97,18 @@ protected:
 
 private:
     bool matchesFilter(const QString& text) const;
+    bool filterAcceptsRowOrRelative(int sourceRow, const QModelIndex& sourceParent) const;
+    //! Fills the filter's fields of a row from its item; false where only data() can tell.
+    bool readFilterFields(const QModelIndex& index, void* fieldsOut) const;
 
     bool m_addingCollection = false;
     GenApi::EVisibility m_visibility = GenApi::Guru;
     // Used as sets, keyed by the feature's name; filled during const filtering.
     mutable QHash<QString, bool> m_visibleMatches;
     mutable QHash<QString, bool> m_invisibleMatches;
+    // The filter's pattern, copied once per filterAcceptsRow() while it runs.
+    mutable QRegExp m_pattern;
+    mutable bool m_patternCached = false;
+    // The source is a FeatureTreeModel itself, not a class derived from it.
+    mutable bool m_sourceIsFeatureTreeModel = false;
 };
