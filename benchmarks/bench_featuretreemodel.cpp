@@ -59,12 +59,16 @@ int readDisplay(const QAbstractItemModel& model, const QModelIndex& parent)
 }
 
 // The plain alternative: the same names and value texts copied into standard items.
-void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, const QString& fullName)
+// When `keep` is given, every parameter looked up is kept alive in it.
+void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, const QString& fullName,
+    QList<QSharedPointer<IParameter>>* keep = nullptr)
 {
     for (const QString& child : collection.getChildNames(fullName, false, true)) {
         const QSharedPointer<IParameter> parameter = collection.getParameter(child);
         if (!parameter || parameter->isZombie())
             continue;
+        if (keep)
+            keep->append(parameter);
         const QSharedPointer<const ParameterData> data = parameter->getParameterData();
         const QString displayName
             = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
@@ -72,7 +76,7 @@ void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, 
         auto* valueItem = new QStandardItem(data ? data->valueText : QString());
         parent->appendRow({ nameItem, valueItem });
         if (parameter->getType() == TypeCategory)
-            fillStandardModel(nameItem, collection, child);
+            fillStandardModel(nameItem, collection, child, keep);
     }
 }
 
@@ -93,13 +97,17 @@ int main(int argc, char** argv)
         const QSharedPointer<SimulatedDevice> device = makeDevice(count, 0, 0);
         const QSharedPointer<IParameterCollection> collection = device->nodeMap(nodeMapName);
 
-        // The simulation makes its parameter objects on first look-up: make them
-        // all now, so that neither model is charged for them.
+        // The simulation makes its parameter objects on first look-up and frees
+        // them with their last user: make them all now and keep them for the
+        // whole measurement, as a camera's parameter layer holds its own, so
+        // that neither model is charged for them.
+        QList<QSharedPointer<IParameter>> parameters;
         {
             QStandardItemModel warmUp;
             auto* root = new QStandardItem;
             warmUp.appendRow(root);
-            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"));
+            parameters.append(collection->getParameter(nodeMapName + QStringLiteral("/Root")));
+            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"), &parameters);
         }
 
         // Feature tree model.

@@ -143,7 +143,8 @@ QVariant FeatureTreeModel::data(const QModelIndex& index, int role) const
         return QVariant();
     // One dialog per run of failing reads: a successful read rearms it.
     try {
-        const QVariant result = item->data(index.column(), role);
+        // Not const: returned by move, not by a copy of the variant.
+        QVariant result = item->data(index.column(), role);
         m_errorShown = false;
         return result;
     } catch (const GenICam::GenericException&) {
