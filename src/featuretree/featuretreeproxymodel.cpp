@@ -19,12 +19,12 @@ FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
 
 int FeatureTreeProxyModel::getVisibleMatchCount() const
 {
-    return m_visibleMatches.count();
+    return m_visibleMatches.count;
 }
 
 int FeatureTreeProxyModel::getInvisibleMatchCount() const
 {
-    return m_invisibleMatches.count();
+    return m_invisibleMatches.count;
 }
 
 FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel()
@@ -163,9 +163,9 @@ bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIn
     }
     if (hit) {
         if (visibility <= GenApi::Guru && visibility > m_visibility)
-            m_invisibleMatches.insert(name, true);
+            m_invisibleMatches.insert(name);
         if (visibility <= m_visibility)
-            m_visibleMatches.insert(name, true);
+            m_visibleMatches.insert(name);
     }
     // The search help line passes without matching.
     // (Its name role is its full name, so only a row named "Search" needs the look.)
@@ -205,14 +205,8 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& s
 {
     // Filtering always begins at the first top-level row: a new pass, new counts.
     if (sourceRow == 0 && !sourceParent.isValid()) {
-        // Kept at their size: the next pass finds about as many again, without
-        // growing the tables step by step.
-        const int visible = m_visibleMatches.size();
-        const int invisible = m_invisibleMatches.size();
-        m_visibleMatches.clear();
-        m_invisibleMatches.clear();
-        m_visibleMatches.reserve(visible);
-        m_invisibleMatches.reserve(invisible);
+        m_visibleMatches.startPass();
+        m_invisibleMatches.startPass();
     }
     if (m_addingCollection)
         return true;

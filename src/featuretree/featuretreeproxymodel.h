@@ -103,9 +103,36 @@ private:
 
     bool m_addingCollection = false;
     GenApi::EVisibility m_visibility = GenApi::Guru;
-    // Used as sets, keyed by the feature's name; filled during const filtering.
-    mutable QHash<QString, bool> m_visibleMatches;
-    mutable QHash<QString, bool> m_invisibleMatches;
+    // The names that matched in the present filtering pass. Each name keeps
+    // the number of the last pass that saw it, so that a new pass costs a
+    // counter instead of freeing and allocating a table entry per feature
+    // again; on a large tree that was a tenth of a keystroke.
+    struct MatchSet
+    {
+        QHash<QString, quint32> lastPass;
+        quint32 pass = 1;
+        int count = 0;
+
+        void startPass()
+        {
+            // Names no longer seen are dropped now and then, not on every pass.
+            if (lastPass.size() > 2 * count + 1024)
+                lastPass.clear();
+            ++pass;
+            count = 0;
+        }
+        void insert(const QString& name)
+        {
+            quint32& seen = lastPass[name];
+            if (seen != pass) {
+                seen = pass;
+                ++count;
+            }
+        }
+    };
+    // Filled during const filtering.
+    mutable MatchSet m_visibleMatches;
+    mutable MatchSet m_invisibleMatches;
     // The filter's pattern, copied once per filterAcceptsRow() while it runs.
     mutable QRegExp m_pattern;
     mutable bool m_patternCached = false;
