@@ -68,6 +68,23 @@ struct Subscriptions
     }
 };
 
+// GetNodemapName() for an item's full name. The answer depends only on the
+// text before the first "/" after the leading character, and the rows of one
+// node map are built in long runs: the last answer is kept with that prefix,
+// which spares the split of every full name into parts.
+QString translationContextOf(const QString& fullName)
+{
+    thread_local QString lastPrefix;
+    thread_local QString lastContext;
+    const int slash = fullName.indexOf(QLatin1Char('/'), 1);
+    const QStringRef prefix = slash >= 0 ? fullName.leftRef(slash) : QStringRef(&fullName);
+    if (slash < 0 || lastPrefix.isNull() || prefix != lastPrefix) {
+        lastContext = GetNodemapName(fullName);
+        lastPrefix = slash >= 0 ? prefix.toString() : QString();
+    }
+    return lastContext;
+}
+
 Subscriptions& subscriptions()
 {
     // Made on the thread of the first item, which is the thread of the widgets,
@@ -85,7 +102,7 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     , m_collection(std::move(collection))
     , m_node(std::move(node))
     , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(GetNodemapName(fullName))
+    , m_translationContext(translationContextOf(fullName))
 {
     initInternal();
 }
@@ -97,7 +114,7 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     , m_collection(std::move(collection))
     , m_node(std::move(node))
     , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(GetNodemapName(fullName))
+    , m_translationContext(translationContextOf(fullName))
 {
     initInternal();
     try {
