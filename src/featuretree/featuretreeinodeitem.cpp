@@ -22,7 +22,7 @@ namespace {
 
 // The items subscribed to the parameters' change signal.
 //
-// A trees of the largest cameras has 100 000 items; a connection of its own
+// A tree of the largest cameras has 100 000 items; a connection of its own
 // from each parameter to each item cost two connection lists (the parameter's
 // as sender, the item's as receiver) and the parsing of two signatures per
 // item: about a third of the bytes of a row and much of the time to build it.
@@ -34,7 +34,6 @@ namespace {
 // before.
 struct Subscription
 {
-    QMetaObject::Connection connection;
     FeatureTreeINodeItem* first = nullptr;
     QVector<FeatureTreeINodeItem*> more; // a favourite twin, rarely more
 };
@@ -116,7 +115,8 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     , m_textAsUtf8(textAsUtf8)
     , m_translationContext(translationContextOf(fullName))
 {
-    initInternal();
+    QString displayName;
+    initInternal(&displayName);
     try {
         if (m_node && !m_node->isZombie())
             subscribe();
@@ -124,7 +124,7 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
         // A zombie test that throws leaves the item unsubscribed, showing what it cached.
         ExceptionLogging::logCurrentException("FeatureTreeINodeItem", QStringLiteral("Failed to subscribe to a node"));
     }
-    setDisplayedName(m_displayName);
+    setDisplayedName(displayName);
 }
 
 FeatureTreeINodeItem::~FeatureTreeINodeItem()
@@ -140,7 +140,7 @@ void FeatureTreeINodeItem::subscribe()
     Subscription& subscription = all.byParameter[parameter];
     if (!subscription.first) {
         subscription.first = this;
-        subscription.connection = connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
+        connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
             [parameter](QSharedPointer<const ParameterData> data) { subscriptions().deliver(parameter, data); });
     } else {
         subscription.more.append(this);
@@ -159,7 +159,8 @@ void FeatureTreeINodeItem::unsubscribe()
         return;
     if (found->first == this) {
         if (found->more.isEmpty()) {
-            QObject::disconnect(found->connection);
+            // The parameter's only connection to the context.
+            QObject::disconnect(m_node.data(), &IParameter::parameterDataChangedDecoupled, &all.context, nullptr);
             all.byParameter.erase(found);
             return;
         }
@@ -169,14 +170,15 @@ void FeatureTreeINodeItem::unsubscribe()
     }
 }
 
-void FeatureTreeINodeItem::initInternal()
+void FeatureTreeINodeItem::initInternal(QString* displayName)
 {
     m_childrenFetched = true;
     if (!m_node) {
         m_editorType = EditorInvalid;
         m_parameterData = ParameterData::createPlaceholder();
         m_name = QStringLiteral("Unknown");
-        m_displayName = m_name;
+        if (displayName)
+            *displayName = m_name;
         return;
     }
 
@@ -186,7 +188,9 @@ void FeatureTreeINodeItem::initInternal()
             m_descriptionText = access->getProperty(QStringLiteral("Description"), QString());
             m_toolTipText = access->getProperty(QStringLiteral("Tooltip"), QString());
             m_docuUrl = access->getProperty(QStringLiteral("DocuURL"), QString());
-            m_displayName = access->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+            const QString shownName = access->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+            if (displayName)
+                *displayName = shownName;
             m_name = m_node->getName();
         }
     } catch (...) {
@@ -291,8 +295,12 @@ const QString& FeatureTreeINodeItem::displayText() const
         return m_displayedName;
     // Painting and every search pass ask for this text: build it once
     // per displayed name instead of on every request.
-    if (m_titleWithUnit.isNull() || m_titleBuiltFrom != m_displayedName) {
-        m_titleBuiltFrom = m_displayedName;
+    // The title was built from the present displayed name when it is that name
+    // followed by " [<unit>]"; the unit never changes.
+    const bool current = !m_titleWithUnit.isNull()
+        && m_titleWithUnit.size() == m_displayedName.size() + m_unit.size() + 3
+        && m_titleWithUnit.startsWith(m_displayedName);
+    if (!current) {
         m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
     }
     return m_titleWithUnit;

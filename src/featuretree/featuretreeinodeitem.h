@@ -73,7 +73,8 @@ private:
     friend class FeatureTreeModel;
     friend class FeatureTreeProxyModel;
 
-    void initInternal();
+    //! Caches what the tree shows of the node; gives its display name where asked.
+    void initInternal(QString* displayName = nullptr);
     void subscribe();
     void unsubscribe();
     QVariant toolTip() const;
@@ -91,10 +92,8 @@ private:
     QString m_descriptionText;
     QString m_toolTipText;
     QString m_docuUrl;
-    QString m_displayName;
     QString m_name;
     mutable QString m_titleWithUnit; // "<displayed name> [<unit>]", built on first request
-    mutable QString m_titleBuiltFrom; // the displayed name it was built from
     // The model that built the item and is told of its updates directly
     // (see FeatureTreeModel::connectItem); it owns the item, so outlives it.
     FeatureTreeModel* m_model = nullptr;
