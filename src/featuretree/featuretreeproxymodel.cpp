@@ -211,13 +211,22 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& s
     if (m_addingCollection)
         return true;
     // The row, its ancestors and its children are each matched against the
-    // filter: copy the filter's pattern once per row, not once per match.
-    m_pattern = filterRegExp();
-    const QAbstractItemModel* source = sourceModel();
-    m_sourceIsFeatureTreeModel = source && source->metaObject() == &FeatureTreeModel::staticMetaObject;
+    // filter, and the filter's pattern is only to be had as a copy, which
+    // costs about as much as filtering the row. A new filter text or a new
+    // source makes QSortFilterProxyModel filter the top level before any
+    // level below it, so the copy is taken on the top-level rows only (a
+    // handful per pass) and kept for the rows below them.
+    if (!sourceParent.isValid() || !m_patternKnown) {
+        m_pattern = filterRegExp();
+        m_patternKnown = true;
+        const QAbstractItemModel* source = sourceModel();
+        m_sourceIsFeatureTreeModel = source && source->metaObject() == &FeatureTreeModel::staticMetaObject;
+    }
+    // (Filling a category can insert rows and filter them inside this call.)
+    const bool wasCached = m_patternCached;
     m_patternCached = true;
     const bool accepted = filterAcceptsRowOrRelative(sourceRow, sourceParent);
-    m_patternCached = false;
+    m_patternCached = wasCached;
     return accepted;
 }
 

@@ -133,8 +133,10 @@ private:
     // Filled during const filtering.
     mutable MatchSet m_visibleMatches;
     mutable MatchSet m_invisibleMatches;
-    // The filter's pattern, copied once per filterAcceptsRow() while it runs.
+    // The filter's pattern as of the last top-level row filtered; used while
+    // filterAcceptsRow() runs (m_patternCached).
     mutable QRegExp m_pattern;
+    mutable bool m_patternKnown = false;
     mutable bool m_patternCached = false;
     // The source is a FeatureTreeModel itself, not a class derived from it.
     mutable bool m_sourceIsFeatureTreeModel = false;
