@@ -104,6 +104,10 @@ QString FeatureTreeView::getSettingsPath() const
 
 void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
 {
+    // Held back during a bulk change, before the item is looked up in the
+    // whole tree: endBulkChange() opens what is visible then.
+    if (m_bulkDepth > 0)
+        return;
     IFeatureTreeModelExtension* extension = getFeatureExtension();
     if (!extension)
         return;
@@ -115,9 +119,6 @@ void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
     if (item->getVisibility() > m_visibility)
         return;
     if (item->getAccessMode() <= GenApi::NA)
-        return;
-    // Held back during a bulk change; endBulkChange() opens what is visible then.
-    if (m_bulkDepth > 0)
         return;
     QAbstractItemView::openPersistentEditor(index);
     if (indexWidget(index))
@@ -234,6 +235,8 @@ void FeatureTreeView::forEachValueCell(QModelIndex const& parent,
 
 void FeatureTreeView::openPersistentEditorsForChildren(QModelIndex const& parent)
 {
+    if (m_bulkDepth > 0)
+        return;
     forEachValueCell(parent, [this](int, QModelIndex const& child, FeatureTreeItem* item) {
         if (item && item->ShowMe(m_visibility) && !indexWidget(child) && item->usePersistentEditor())
             openPersistentEditor(child);
