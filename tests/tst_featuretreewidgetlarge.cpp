@@ -85,6 +85,26 @@ EditorCensus census(FeatureTreeView& view)
     return result;
 }
 
+//! The first expanded category, depth first, with a value row that has its editor; and that value cell.
+QModelIndex firstCategoryWithEditor(FeatureTreeView& view, QModelIndex* value)
+{
+    QAbstractItemModel* model = view.model();
+    QModelIndex category;
+    std::function<void(const QModelIndex&)> find = [&](const QModelIndex& parent) {
+        for (int row = 0; row < model->rowCount(parent) && !category.isValid(); ++row) {
+            const QModelIndex cell = model->index(row, 1, parent);
+            if (parent.isValid() && view.indexWidget(cell) && wantsEditor(view, cell)) {
+                category = parent;
+                *value = cell;
+            } else if (view.isExpanded(cell.sibling(row, 0))) {
+                find(cell.sibling(row, 0));
+            }
+        }
+    };
+    find(QModelIndex());
+    return category;
+}
+
 } // namespace
 
 class TestFeatureTreeWidgetLarge : public QObject
@@ -101,6 +121,8 @@ private slots:
     void editorsAfterSearchGestures();
     void editorsFollowTheirRowsAfterAnExpansionAbove();
     void currentRowKeepsItsEditorThroughASearch();
+    void budgetDecidesWhetherEditorsAreClosed_data();
+    void budgetDecidesWhetherEditorsAreClosed();
     void bulkChangesNestAndOpenEditorsAtTheOuterEnd();
     void unmatchedEndOfBulkChangeIsRefused();
 
@@ -172,17 +194,31 @@ void TestFeatureTreeWidgetLarge::editorsAfterSearchGestures_data()
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<int>("levelDuringSearch");
     QTest::addColumn<bool>("expectEditors");
+    QTest::addColumn<qint64>("budget");
 
-    QTest::newRow("one letter") << QStringList { QStringLiteral("7") } << -1 << true;
-    QTest::newRow("two letters") << QStringList { QStringLiteral("7"), QStringLiteral("77") } << -1 << true;
-    QTest::newRow("letter, then cleared") << QStringList { QStringLiteral("7"), QString() } << -1 << true;
-    QTest::newRow("two letters, one taken back, cleared")
-        << QStringList { QStringLiteral("1"), QStringLiteral("12"), QStringLiteral("1"), QString() } << -1 << true;
-    QTest::newRow("no match, then cleared") << QStringList { QStringLiteral("zzz"), QString() } << -1 << true;
-    QTest::newRow("no match") << QStringList { QStringLiteral("zzz") } << -1 << false;
-    QTest::newRow("level to Beginner during the search") << QStringList { QStringLiteral("3") } << 0 << true;
-    QTest::newRow("level to Expert during the search, then cleared")
-        << QStringList { QStringLiteral("3"), QString() } << 1 << true;
+    // Each gesture with the editors closed at the first row range, and with
+    // the default budget, under which a tree of this size keeps them.
+    for (const qint64 budget : { qint64(0), FeatureTreeView().bulkEditorBudget() }) {
+        const QByteArray suffix = budget == 0 ? QByteArray(", editors closed") : QByteArray(", editors kept");
+
+        QTest::newRow(QByteArray("one letter" + suffix).constData())
+            << QStringList { QStringLiteral("7") } << -1 << true << budget;
+        QTest::newRow(QByteArray("two letters" + suffix).constData())
+            << QStringList { QStringLiteral("7"), QStringLiteral("77") } << -1 << true << budget;
+        QTest::newRow(QByteArray("letter, then cleared" + suffix).constData())
+            << QStringList { QStringLiteral("7"), QString() } << -1 << true << budget;
+        QTest::newRow(QByteArray("two letters, one taken back, cleared" + suffix).constData())
+            << QStringList { QStringLiteral("1"), QStringLiteral("12"), QStringLiteral("1"), QString() } << -1 << true
+            << budget;
+        QTest::newRow(QByteArray("no match, then cleared" + suffix).constData())
+            << QStringList { QStringLiteral("zzz"), QString() } << -1 << true << budget;
+        QTest::newRow(QByteArray("no match" + suffix).constData())
+            << QStringList { QStringLiteral("zzz") } << -1 << false << budget;
+        QTest::newRow(QByteArray("level to Beginner during the search" + suffix).constData())
+            << QStringList { QStringLiteral("3") } << 0 << true << budget;
+        QTest::newRow(QByteArray("level to Expert during the search, then cleared" + suffix).constData())
+            << QStringList { QStringLiteral("3"), QString() } << 1 << true << budget;
+    }
 }
 
 void TestFeatureTreeWidgetLarge::editorsAfterSearchGestures()
@@ -190,10 +226,12 @@ void TestFeatureTreeWidgetLarge::editorsAfterSearchGestures()
     QFETCH(QStringList, texts);
     QFETCH(int, levelDuringSearch);
     QFETCH(bool, expectEditors);
+    QFETCH(qint64, budget);
 
     std::unique_ptr<FeatureTreeWidget> widget;
     makeWidget(widget);
     FeatureTreeView* tree = view(*widget);
+    tree->setBulkEditorBudget(budget);
     tree->setCurrentIndex(QModelIndex());
     for (int i = 0; i < texts.size(); ++i) {
         searchLine(*widget)->setText(texts.at(i));
@@ -216,14 +254,10 @@ void TestFeatureTreeWidgetLarge::editorsFollowTheirRowsAfterAnExpansionAbove()
     FeatureTreeView* tree = view(*widget);
     QAbstractItemModel* model = tree->model();
 
-    // Collapse and expand again the first category with children: the rows
+    // Collapse and expand again the first category with editors: the rows
     // below it move down, and their editors must move with them.
-    QModelIndex category;
-    for (int row = 0; row < model->rowCount() && !category.isValid(); ++row) {
-        const QModelIndex top = model->index(row, 0);
-        if (tree->isExpanded(top) && model->rowCount(top) > 0 && model->hasChildren(model->index(0, 0, top)))
-            category = model->index(0, 0, top);
-    }
+    QModelIndex firstValue;
+    const QModelIndex category = firstCategoryWithEditor(*tree, &firstValue);
     QVERIFY(category.isValid());
     tree->collapse(category);
     QCoreApplication::processEvents();
@@ -258,6 +292,7 @@ void TestFeatureTreeWidgetLarge::currentRowKeepsItsEditorThroughASearch()
     std::unique_ptr<FeatureTreeWidget> widget;
     makeWidget(widget);
     FeatureTreeView* tree = view(*widget);
+    tree->setBulkEditorBudget(0);
     // A feature whose name holds the search text, so that its row stays.
     const QModelIndex value
         = viewIndex(*tree, QStringLiteral("@CameraDevice/") + Simulation::SyntheticNodeMapGenerator::featureName(7), 1);
@@ -276,27 +311,43 @@ void TestFeatureTreeWidgetLarge::currentRowKeepsItsEditorThroughASearch()
     QCOMPARE(tree->indexWidget(after), editor.data());
 }
 
+void TestFeatureTreeWidgetLarge::budgetDecidesWhetherEditorsAreClosed_data()
+{
+    QTest::addColumn<qint64>("budget");
+    QTest::addColumn<bool>("sameEditor");
+    QTest::newRow("no budget: closed at the first range, a new one opens") << qint64(0) << false;
+    QTest::newRow("a budget of one visit: closed at the second range") << qint64(1) << false;
+    QTest::newRow("the default budget: a tree this size keeps its editors")
+        << FeatureTreeView().bulkEditorBudget() << true;
+}
+
+void TestFeatureTreeWidgetLarge::budgetDecidesWhetherEditorsAreClosed()
+{
+    QFETCH(qint64, budget);
+    QFETCH(bool, sameEditor);
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    tree->setBulkEditorBudget(budget);
+    QCOMPARE(tree->bulkEditorBudget(), budget);
+    tree->setCurrentIndex(QModelIndex());
+    const QString fullName = QStringLiteral("@CameraDevice/") + Simulation::SyntheticNodeMapGenerator::featureName(7);
+    QPointer<QWidget> before = tree->indexWidget(viewIndex(*tree, fullName, 1));
+    QVERIFY(before);
+    searchLine(*widget)->setText(QStringLiteral("7"));
+    QCoreApplication::processEvents();
+    QWidget* after = tree->indexWidget(viewIndex(*tree, fullName, 1));
+    QVERIFY(after);
+    QCOMPARE(after == before.data(), sameEditor);
+}
+
 void TestFeatureTreeWidgetLarge::bulkChangesNestAndOpenEditorsAtTheOuterEnd()
 {
     std::unique_ptr<FeatureTreeWidget> widget;
     makeWidget(widget);
     FeatureTreeView* tree = view(*widget);
-    QAbstractItemModel* model = tree->model();
-    // The first category with a value row that has an editor.
-    QModelIndex category;
     QModelIndex firstValue;
-    std::function<void(const QModelIndex&)> find = [&](const QModelIndex& parent) {
-        for (int row = 0; row < model->rowCount(parent) && !firstValue.isValid(); ++row) {
-            const QModelIndex value = model->index(row, 1, parent);
-            if (parent.isValid() && tree->indexWidget(value) && wantsEditor(*tree, value)) {
-                category = parent;
-                firstValue = value;
-            } else if (tree->isExpanded(value.sibling(row, 0))) {
-                find(value.sibling(row, 0));
-            }
-        }
-    };
-    find(QModelIndex());
+    const QModelIndex category = firstCategoryWithEditor(*tree, &firstValue);
     QVERIFY(category.isValid());
     tree->collapse(category);
 

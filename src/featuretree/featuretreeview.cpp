@@ -127,8 +127,10 @@ void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
 
 void FeatureTreeView::beginBulkChange()
 {
-    if (m_bulkDepth++ == 0)
+    if (m_bulkDepth++ == 0) {
         m_editorsClosedForBulk = false;
+        m_bulkEditorVisits = 0;
+    }
 }
 
 void FeatureTreeView::endBulkChange()
@@ -146,6 +148,10 @@ void FeatureTreeView::endBulkChange()
 void FeatureTreeView::closeEditorsForBulkChange()
 {
     if (m_bulkDepth == 0 || m_editorsClosedForBulk)
+        return;
+    // This range, and each one after it, visits every open editor.
+    m_bulkEditorVisits += m_editorIndexes.size();
+    if (m_bulkEditorVisits <= m_bulkEditorBudget && m_bulkEditorBudget > 0)
         return;
     m_editorsClosedForBulk = true;
     // Runs inside the model's row signals: only the base class's bookkeeping

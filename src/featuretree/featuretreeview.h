@@ -60,15 +60,24 @@ public:
 
     /*!
      * Brackets a change that may move many rows at once, such as a new search
-     * text. Until the matching endBulkChange() no editor opens, and the first
-     * row range that the model removes or inserts closes every persistent
-     * editor except the one of the current row: with thousands of editors
-     * open, each such range would otherwise walk all of them. Calls nest.
+     * text. Until the matching endBulkChange() no editor opens. Each row
+     * range that the model removes or inserts walks every open editor; once
+     * the ranges of the bracket have cost more such visits than the editor
+     * budget, every persistent editor except the one of the current row is
+     * closed, and the remaining ranges are cheap. Calls nest.
      */
     void beginBulkChange();
     //! Ends a bracket; the last one opens the editors of every visible value row in one pass.
     void endBulkChange();
     bool isInBulkChange() const { return m_bulkDepth > 0; }
+    /*!
+     * Editor visits (ranges times open editors) that a bulk change takes
+     * before it closes the editors. Closing and opening again costs about
+     * as much per editor as a thousand range visits; below the budget a
+     * small tree keeps its editors. 0 closes them at the first range.
+     */
+    void setBulkEditorBudget(qint64 visits) { m_bulkEditorBudget = qMax<qint64>(0, visits); }
+    qint64 bulkEditorBudget() const { return m_bulkEditorBudget; }
     //! Opens the missing editors of the visible value rows below expanded parents, from `parent` down.
     void openVisibleEditors(QModelIndex const& parent = QModelIndex());
 
@@ -120,6 +129,8 @@ private:
     QSet<QPersistentModelIndex> m_editorIndexes;
     int m_bulkDepth = 0;
     bool m_editorsClosedForBulk = false;
+    qint64 m_bulkEditorVisits = 0;
+    qint64 m_bulkEditorBudget = 500000;
     bool m_placeEditorsPosted = false;
     bool m_placingEditors = false;
 };

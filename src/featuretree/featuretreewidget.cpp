@@ -238,7 +238,7 @@ void FeatureTreeWidget::refreshTree()
     if (!proxy)
         return;
     // Both filter passes may move many row ranges: in the bracket the editors
-    // close at the first one and those of the visible rows open again at its end.
+    // may close, and those of the visible rows open again at its end.
     featureTreeView()->beginBulkChange();
     // The empty text first forces the filter to run again even if the text has not changed.
     proxy->setFilterFixedString(QString());
@@ -420,10 +420,10 @@ void FeatureTreeWidget::onFilterTextChanged(QString const& newText)
     // A new filter text removes or inserts rows range by range, and with
     // thousands of editors open each range walked all of them: a keystroke
     // took seconds, clearing the search a minute. In the bracket the view
-    // closes its editors at the first range, and restoring the expansion and
-    // expanding the tree open none; the editors of the visible rows then open
-    // in one pass, after expandTree() and before the repaint, so the repaint
-    // shows the same tree as ever.
+    // closes its editors once the ranges have walked them often enough, and
+    // restoring the expansion and expanding the tree open none; the editors
+    // of the visible rows then open in one pass, after expandTree() and
+    // before the repaint, so the repaint shows the same tree as ever.
     featureTreeView()->beginBulkChange();
     if (proxy) {
         // The user's expansion and current row are kept for the whole search,
