@@ -72,9 +72,10 @@ public:
     bool isInBulkChange() const { return m_bulkDepth > 0; }
     /*!
      * Editor visits (ranges times open editors) that a bulk change takes
-     * before it closes the editors. Closing and opening again costs about
-     * as much per editor as a thousand range visits; below the budget a
-     * small tree keeps its editors. 0 closes them at the first range.
+     * before it closes the editors; 100 000 by default. Below it a small
+     * tree keeps its editors, which is cheaper than opening them again; a
+     * camera of thousands of editors passes it within its first twenty
+     * ranges. 0 closes them at the first range.
      */
     void setBulkEditorBudget(qint64 visits) { m_bulkEditorBudget = qMax<qint64>(0, visits); }
     qint64 bulkEditorBudget() const { return m_bulkEditorBudget; }
@@ -130,7 +131,7 @@ private:
     int m_bulkDepth = 0;
     bool m_editorsClosedForBulk = false;
     qint64 m_bulkEditorVisits = 0;
-    qint64 m_bulkEditorBudget = 500000;
+    qint64 m_bulkEditorBudget = 100000;
     bool m_placeEditorsPosted = false;
     bool m_placingEditors = false;
 };
