@@ -153,7 +153,9 @@ void FeaturePane::fill()
                     texts[5] = tr("%1 to %2").arg(integer->minimum).arg(integer->maximum);
                     texts[6] = QString::number(integer->increment);
                 } else if (auto real = data.dynamicCast<const ParameterCollection::FloatParameterData>()) {
-                    texts[5] = tr("%1 to %2").arg(real->minimum).arg(real->maximum);
+                    texts[5] = tr("%1 to %2")
+                                   .arg(QString::number(real->minimum, 'f', int(real->precision)),
+                                       QString::number(real->maximum, 'f', int(real->precision)));
                     texts[6] = real->hasIncrement ? QString::number(real->increment) : tr("none");
                 }
             }

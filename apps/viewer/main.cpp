@@ -65,6 +65,8 @@ int showWindow(const QCommandLineParser& parser, const QCommandLineOption& devic
     if (parser.isSet(aravisOption))
         window.discoverAravisCameras();
     window.show();
+    if (screenshot)
+        window.selectFeature(QStringLiteral("@CameraDevice/ExposureTime"));
     if (!screenshot)
         return QApplication::exec();
 

@@ -5,6 +5,7 @@
 
 #include "featuretree/featuretreeitem.h"
 #include "featuretree/featuretreewidget.h"
+#include "featuretree/ifeaturetreemodelextension.h"
 #include "messages/errorreporting.h"
 #include "messages/exceptionlogging.h"
 #include "messages/messageboxcheckable.h"
@@ -23,6 +24,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QHostAddress>
 #include <QInputDialog>
 #include <QLabel>
@@ -227,8 +229,8 @@ bool ViewerMainWindow::openCamera(int row)
         tree->addParameterCollection(
             camera->nodeMap(name), name.mid(name.startsWith(QLatin1Char('@')) ? 1 : 0), name, false);
     tree->setVisibility(levelOf(ui->levelCombo->currentIndex()));
-    if (!m_treeState.isEmpty())
-        tree->restoreState(m_treeState, kTreeStateVersion);
+    if (m_treeState.isEmpty() || !tree->restoreState(m_treeState, kTreeStateVersion))
+        tree->treeView()->header()->resizeSection(0, 260);
     tree->expandRootNodes();
 
     {
@@ -279,6 +281,21 @@ ViewerCamera* ViewerMainWindow::camera() const
 QString ViewerMainWindow::statusText() const
 {
     return m_matchesLabel->text();
+}
+
+bool ViewerMainWindow::selectFeature(const QString& fullName)
+{
+    if (!m_tree || !m_tree->getFeatureExtension())
+        return false;
+    const QModelIndex index = m_tree->getFeatureExtension()->findItemByFullName(fullName, nullptr, 0);
+    if (!index.isValid())
+        return false;
+    QTreeView* view = m_tree->treeView();
+    for (QModelIndex parent = index.parent(); parent.isValid(); parent = parent.parent())
+        view->expand(parent);
+    view->setCurrentIndex(index);
+    view->scrollTo(index);
+    return true;
 }
 
 void ViewerMainWindow::updateActions()

@@ -52,6 +52,9 @@ public:
     bool openCamera(int row);
     int currentCameraRow() const;
 
+    //! Makes the feature with that full name ("@CameraDevice/Gain") the tree's current row; false if absent.
+    bool selectFeature(const QString& fullName);
+
     //! Installs the library's catalogue for the code ("en", "ja", "ko", "zh") and retranslates.
     bool setLanguage(const QString& code);
     QString language() const;
