@@ -4,6 +4,14 @@
 <context>
     <name>CameraDevice</name>
     <message>
+        <source>AcquisitionAbort_Tooltip</source>
+        <translation>Stops taking images at once; the image being taken is lost.</translation>
+    </message>
+    <message>
+        <source>AcquisitionFrameCount_Tooltip</source>
+        <translation>Number of images taken in multi-frame mode.</translation>
+    </message>
+    <message>
         <source>AcquisitionFrameRate_Tooltip</source>
         <translation>Rate at which the camera takes images, in frames per second.</translation>
     </message>
@@ -22,6 +30,14 @@
     <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>Stops taking images after the current image.</translation>
+    </message>
+    <message>
+        <source>ActionDeviceKey_Tooltip</source>
+        <translation>Key an action command must carry for the camera to act on it.</translation>
+    </message>
+    <message>
+        <source>AutoTargetBrightness_Tooltip</source>
+        <translation>Mean brightness the automatic exposure and gain try to reach.</translation>
     </message>
     <message>
         <source>BalanceRatio_Tooltip</source>
@@ -48,8 +64,48 @@
         <translation>Offset added to every pixel value; raises or lowers the darkest tones.</translation>
     </message>
     <message>
+        <source>ChunkEnable_Tooltip</source>
+        <translation>Puts the selected chunk into each image.</translation>
+    </message>
+    <message>
+        <source>ChunkModeActive_Tooltip</source>
+        <translation>Adds the enabled chunks of data to every image.</translation>
+    </message>
+    <message>
+        <source>ChunkSelector_Tooltip</source>
+        <translation>Chooses the chunk to turn on or off.</translation>
+    </message>
+    <message>
+        <source>ChunkTimestamp_Tooltip</source>
+        <translation>Time stamp of the last image, from its chunk.</translation>
+    </message>
+    <message>
+        <source>CounterEventSource_Tooltip</source>
+        <translation>Signal whose events the selected counter counts.</translation>
+    </message>
+    <message>
+        <source>CounterReset_Tooltip</source>
+        <translation>Sets the selected counter back to zero.</translation>
+    </message>
+    <message>
+        <source>CounterSelector_Tooltip</source>
+        <translation>Chooses the counter to set up.</translation>
+    </message>
+    <message>
+        <source>CounterValue_Tooltip</source>
+        <translation>Present count of the selected counter.</translation>
+    </message>
+    <message>
+        <source>DeviceFamilyName_Tooltip</source>
+        <translation>Product family the camera belongs to.</translation>
+    </message>
+    <message>
         <source>DeviceFirmwareVersion_Tooltip</source>
         <translation>Version of the firmware in the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceManufacturerInfo_Tooltip</source>
+        <translation>Further information from the camera maker.</translation>
     </message>
     <message>
         <source>DeviceModelName_Tooltip</source>
@@ -58,6 +114,10 @@
     <message>
         <source>DeviceReset_Tooltip</source>
         <translation>Restarts the camera. The connection is lost until it is back.</translation>
+    </message>
+    <message>
+        <source>DeviceScanType_Tooltip</source>
+        <translation>Whether the sensor takes whole areas or single lines.</translation>
     </message>
     <message>
         <source>DeviceSerialNumber_Tooltip</source>
@@ -74,6 +134,274 @@
     <message>
         <source>DeviceVendorName_Tooltip</source>
         <translation>Name of the camera maker.</translation>
+    </message>
+    <message>
+        <source>DeviceVersion_Tooltip</source>
+        <translation>Hardware version of the camera.</translation>
+    </message>
+    <message>
+        <source>EncoderDivider_Tooltip</source>
+        <translation>Counts only every n-th encoder step.</translation>
+    </message>
+    <message>
+        <source>EncoderMode_Tooltip</source>
+        <translation>How the edges of the encoder signals are counted.</translation>
+    </message>
+    <message>
+        <source>EncoderOutputMode_Tooltip</source>
+        <translation>Which movements of the encoder give an output pulse.</translation>
+    </message>
+    <message>
+        <source>EncoderReset_Tooltip</source>
+        <translation>Sets the encoder position back to zero.</translation>
+    </message>
+    <message>
+        <source>EncoderSelector_Tooltip</source>
+        <translation>Chooses the shaft encoder to set up.</translation>
+    </message>
+    <message>
+        <source>EncoderSourceA_Tooltip</source>
+        <translation>Input line of the encoder signal A.</translation>
+    </message>
+    <message>
+        <source>EncoderSourceB_Tooltip</source>
+        <translation>Input line of the encoder signal B.</translation>
+    </message>
+    <message>
+        <source>EncoderStatus_Tooltip</source>
+        <translation>Direction in which the encoder turns.</translation>
+    </message>
+    <message>
+        <source>EncoderValue_Tooltip</source>
+        <translation>Present position of the encoder.</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionEnd_Tooltip</source>
+        <translation>Identifier of the "Acquisition End" event.</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionEndData_Tooltip</source>
+        <translation>What the camera reports with the "Acquisition End" event.</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionEndTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Acquisition End" event.</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionStart_Tooltip</source>
+        <translation>Identifier of the "Acquisition Start" event.</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionStartData_Tooltip</source>
+        <translation>What the camera reports with the "Acquisition Start" event.</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionStartTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Acquisition Start" event.</translation>
+    </message>
+    <message>
+        <source>EventCounter0End_Tooltip</source>
+        <translation>Identifier of the "Counter 0 End" event.</translation>
+    </message>
+    <message>
+        <source>EventCounter0EndData_Tooltip</source>
+        <translation>What the camera reports with the "Counter 0 End" event.</translation>
+    </message>
+    <message>
+        <source>EventCounter0EndTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Counter 0 End" event.</translation>
+    </message>
+    <message>
+        <source>EventCriticalTemperature_Tooltip</source>
+        <translation>Identifier of the "Critical Temperature" event.</translation>
+    </message>
+    <message>
+        <source>EventCriticalTemperatureData_Tooltip</source>
+        <translation>What the camera reports with the "Critical Temperature" event.</translation>
+    </message>
+    <message>
+        <source>EventCriticalTemperatureTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Critical Temperature" event.</translation>
+    </message>
+    <message>
+        <source>EventEventOverrun_Tooltip</source>
+        <translation>Identifier of the "Event Overrun" event.</translation>
+    </message>
+    <message>
+        <source>EventEventOverrunData_Tooltip</source>
+        <translation>What the camera reports with the "Event Overrun" event.</translation>
+    </message>
+    <message>
+        <source>EventEventOverrunTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Event Overrun" event.</translation>
+    </message>
+    <message>
+        <source>EventExposureEnd_Tooltip</source>
+        <translation>Identifier of the "Exposure End" event.</translation>
+    </message>
+    <message>
+        <source>EventExposureEndData_Tooltip</source>
+        <translation>What the camera reports with the "Exposure End" event.</translation>
+    </message>
+    <message>
+        <source>EventExposureEndFrameID_Tooltip</source>
+        <translation>Image that the last "Exposure End" event belongs to.</translation>
+    </message>
+    <message>
+        <source>EventExposureEndTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Exposure End" event.</translation>
+    </message>
+    <message>
+        <source>EventExposureStart_Tooltip</source>
+        <translation>Identifier of the "Exposure Start" event.</translation>
+    </message>
+    <message>
+        <source>EventExposureStartData_Tooltip</source>
+        <translation>What the camera reports with the "Exposure Start" event.</translation>
+    </message>
+    <message>
+        <source>EventExposureStartFrameID_Tooltip</source>
+        <translation>Image that the last "Exposure Start" event belongs to.</translation>
+    </message>
+    <message>
+        <source>EventExposureStartTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Exposure Start" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStart_Tooltip</source>
+        <translation>Identifier of the "Frame Burst Start" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStartData_Tooltip</source>
+        <translation>What the camera reports with the "Frame Burst Start" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStartFrameID_Tooltip</source>
+        <translation>Image that the last "Frame Burst Start" event belongs to.</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStartTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Frame Burst Start" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameEnd_Tooltip</source>
+        <translation>Identifier of the "Frame End" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameEndData_Tooltip</source>
+        <translation>What the camera reports with the "Frame End" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameEndFrameID_Tooltip</source>
+        <translation>Image that the last "Frame End" event belongs to.</translation>
+    </message>
+    <message>
+        <source>EventFrameEndTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Frame End" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameStart_Tooltip</source>
+        <translation>Identifier of the "Frame Start" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameStartData_Tooltip</source>
+        <translation>What the camera reports with the "Frame Start" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameStartFrameID_Tooltip</source>
+        <translation>Image that the last "Frame Start" event belongs to.</translation>
+    </message>
+    <message>
+        <source>EventFrameStartTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Frame Start" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissed_Tooltip</source>
+        <translation>Identifier of the "Frame Trigger Missed" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissedData_Tooltip</source>
+        <translation>What the camera reports with the "Frame Trigger Missed" event.</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissedFrameID_Tooltip</source>
+        <translation>Image that the last "Frame Trigger Missed" event belongs to.</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissedTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Frame Trigger Missed" event.</translation>
+    </message>
+    <message>
+        <source>EventLine0RisingEdge_Tooltip</source>
+        <translation>Identifier of the "Line 0 Rising Edge" event.</translation>
+    </message>
+    <message>
+        <source>EventLine0RisingEdgeData_Tooltip</source>
+        <translation>What the camera reports with the "Line 0 Rising Edge" event.</translation>
+    </message>
+    <message>
+        <source>EventLine0RisingEdgeTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Line 0 Rising Edge" event.</translation>
+    </message>
+    <message>
+        <source>EventLine2RisingEdge_Tooltip</source>
+        <translation>Identifier of the "Line 2 Rising Edge" event.</translation>
+    </message>
+    <message>
+        <source>EventLine2RisingEdgeData_Tooltip</source>
+        <translation>What the camera reports with the "Line 2 Rising Edge" event.</translation>
+    </message>
+    <message>
+        <source>EventLine2RisingEdgeTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Line 2 Rising Edge" event.</translation>
+    </message>
+    <message>
+        <source>EventNotification_Tooltip</source>
+        <translation>Whether the camera reports the selected event to the application.</translation>
+    </message>
+    <message>
+        <source>EventOverTemperature_Tooltip</source>
+        <translation>Identifier of the "Over Temperature" event.</translation>
+    </message>
+    <message>
+        <source>EventOverTemperatureData_Tooltip</source>
+        <translation>What the camera reports with the "Over Temperature" event.</translation>
+    </message>
+    <message>
+        <source>EventOverTemperatureTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Over Temperature" event.</translation>
+    </message>
+    <message>
+        <source>EventSelector_Tooltip</source>
+        <translation>Chooses the event whose notification is set.</translation>
+    </message>
+    <message>
+        <source>EventTest_Tooltip</source>
+        <translation>Identifier of the "Test" event.</translation>
+    </message>
+    <message>
+        <source>EventTestData_Tooltip</source>
+        <translation>What the camera reports with the "Test" event.</translation>
+    </message>
+    <message>
+        <source>EventTestTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Test" event.</translation>
+    </message>
+    <message>
+        <source>EventTimer0End_Tooltip</source>
+        <translation>Identifier of the "Timer 0 End" event.</translation>
+    </message>
+    <message>
+        <source>EventTimer0EndData_Tooltip</source>
+        <translation>What the camera reports with the "Timer 0 End" event.</translation>
+    </message>
+    <message>
+        <source>EventTimer0EndTimestamp_Tooltip</source>
+        <translation>Time stamp of the last "Timer 0 End" event.</translation>
+    </message>
+    <message>
+        <source>EventsGeneration_Tooltip</source>
+        <translation>Identifier of the "Generation" event.</translation>
     </message>
     <message>
         <source>ExposureAuto_Tooltip</source>
@@ -120,6 +448,46 @@
         <translation>Height of the image the camera sends, in pixels.</translation>
     </message>
     <message>
+        <source>LUTEnable_Tooltip</source>
+        <translation>Applies the selected lookup table to the pixel values.</translation>
+    </message>
+    <message>
+        <source>LUTIndex_Tooltip</source>
+        <translation>Entry of the lookup table that LUTValue reads and writes.</translation>
+    </message>
+    <message>
+        <source>LUTSelector_Tooltip</source>
+        <translation>Chooses the lookup table to set up.</translation>
+    </message>
+    <message>
+        <source>LUTValue_Tooltip</source>
+        <translation>Value of the lookup table entry chosen by LUTIndex.</translation>
+    </message>
+    <message>
+        <source>LineInverter_Tooltip</source>
+        <translation>Inverts the signal of the selected line.</translation>
+    </message>
+    <message>
+        <source>LineMode_Tooltip</source>
+        <translation>Whether the selected line is an input or an output.</translation>
+    </message>
+    <message>
+        <source>LineSelector_Tooltip</source>
+        <translation>Chooses the I/O line to set up.</translation>
+    </message>
+    <message>
+        <source>LineSource_Tooltip</source>
+        <translation>Camera signal sent out on the selected output line.</translation>
+    </message>
+    <message>
+        <source>LineStatus_Tooltip</source>
+        <translation>Present level of the selected line.</translation>
+    </message>
+    <message>
+        <source>LineStatusAll_Tooltip</source>
+        <translation>Levels of all lines at once, one bit per line.</translation>
+    </message>
+    <message>
         <source>OffsetX_Tooltip</source>
         <translation>Horizontal position of the image area on the sensor, in pixels from the left.</translation>
     </message>
@@ -132,12 +500,44 @@
         <translation>Format of the pixels in the images the camera sends.</translation>
     </message>
     <message>
+        <source>PtpEnable_Tooltip</source>
+        <translation>Synchronises the camera clock with the network using PTP.</translation>
+    </message>
+    <message>
+        <source>PtpStatus_Tooltip</source>
+        <translation>State of the PTP clock synchronisation.</translation>
+    </message>
+    <message>
         <source>ReverseX_Tooltip</source>
         <translation>Mirrors the image from left to right.</translation>
     </message>
     <message>
         <source>ReverseY_Tooltip</source>
         <translation>Mirrors the image from top to bottom.</translation>
+    </message>
+    <message>
+        <source>SoftwareSignalPulse_Tooltip</source>
+        <translation>Sends a pulse on the selected software signal.</translation>
+    </message>
+    <message>
+        <source>SoftwareSignalSelector_Tooltip</source>
+        <translation>Chooses the software signal to pulse.</translation>
+    </message>
+    <message>
+        <source>TimerDelay_Tooltip</source>
+        <translation>Time from the start signal to the pulse of the selected timer, in microseconds.</translation>
+    </message>
+    <message>
+        <source>TimerDuration_Tooltip</source>
+        <translation>Length of the pulse of the selected timer, in microseconds.</translation>
+    </message>
+    <message>
+        <source>TimerSelector_Tooltip</source>
+        <translation>Chooses the timer to set up.</translation>
+    </message>
+    <message>
+        <source>TimerTriggerSource_Tooltip</source>
+        <translation>Signal that starts the selected timer.</translation>
     </message>
     <message>
         <source>TriggerActivation_Tooltip</source>
@@ -162,6 +562,18 @@
     <message>
         <source>TriggerSource_Tooltip</source>
         <translation>Where the trigger comes from: a line, software, a counter or a timer.</translation>
+    </message>
+    <message>
+        <source>UserOutputSelector_Tooltip</source>
+        <translation>Chooses the user output to set.</translation>
+    </message>
+    <message>
+        <source>UserOutputValue_Tooltip</source>
+        <translation>Level of the selected user output.</translation>
+    </message>
+    <message>
+        <source>UserSetDefault_Tooltip</source>
+        <translation>User set the camera loads when it is switched on.</translation>
     </message>
     <message>
         <source>UserSetLoad_Tooltip</source>

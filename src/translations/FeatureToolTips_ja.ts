@@ -4,6 +4,14 @@
 <context>
     <name>CameraDevice</name>
     <message>
+        <source>AcquisitionAbort_Tooltip</source>
+        <translation>撮像をすぐに中止します。撮像中の画像は失われます。</translation>
+    </message>
+    <message>
+        <source>AcquisitionFrameCount_Tooltip</source>
+        <translation>マルチフレームモードで撮像する枚数。</translation>
+    </message>
+    <message>
         <source>AcquisitionFrameRate_Tooltip</source>
         <translation>カメラの撮像レート (フレーム/秒)。</translation>
     </message>
@@ -22,6 +30,14 @@
     <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>現在の画像の後で撮像を停止します。</translation>
+    </message>
+    <message>
+        <source>ActionDeviceKey_Tooltip</source>
+        <translation>カメラがアクションコマンドを受け付けるためのキー。</translation>
+    </message>
+    <message>
+        <source>AutoTargetBrightness_Tooltip</source>
+        <translation>自動露光と自動ゲインが目指す平均の明るさ。</translation>
     </message>
     <message>
         <source>BalanceRatio_Tooltip</source>
@@ -48,8 +64,48 @@
         <translation>すべての画素値に加えるオフセット。最も暗い部分の明るさを上下します。</translation>
     </message>
     <message>
+        <source>ChunkEnable_Tooltip</source>
+        <translation>選んだチャンクを各画像に入れます。</translation>
+    </message>
+    <message>
+        <source>ChunkModeActive_Tooltip</source>
+        <translation>有効にしたチャンクデータを各画像に付けます。</translation>
+    </message>
+    <message>
+        <source>ChunkSelector_Tooltip</source>
+        <translation>オンまたはオフにするチャンクを選びます。</translation>
+    </message>
+    <message>
+        <source>ChunkTimestamp_Tooltip</source>
+        <translation>最後の画像のタイムスタンプ (チャンクから)。</translation>
+    </message>
+    <message>
+        <source>CounterEventSource_Tooltip</source>
+        <translation>選んだカウンターが数える信号。</translation>
+    </message>
+    <message>
+        <source>CounterReset_Tooltip</source>
+        <translation>選んだカウンターを 0 に戻します。</translation>
+    </message>
+    <message>
+        <source>CounterSelector_Tooltip</source>
+        <translation>設定するカウンターを選びます。</translation>
+    </message>
+    <message>
+        <source>CounterValue_Tooltip</source>
+        <translation>選んだカウンターの現在値。</translation>
+    </message>
+    <message>
+        <source>DeviceFamilyName_Tooltip</source>
+        <translation>カメラが属する製品ファミリー。</translation>
+    </message>
+    <message>
         <source>DeviceFirmwareVersion_Tooltip</source>
         <translation>カメラのファームウェアのバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceManufacturerInfo_Tooltip</source>
+        <translation>カメラメーカーからの追加情報。</translation>
     </message>
     <message>
         <source>DeviceModelName_Tooltip</source>
@@ -58,6 +114,10 @@
     <message>
         <source>DeviceReset_Tooltip</source>
         <translation>カメラを再起動します。復帰するまで接続は切れます。</translation>
+    </message>
+    <message>
+        <source>DeviceScanType_Tooltip</source>
+        <translation>センサーがエリアで撮るかラインで撮るか。</translation>
     </message>
     <message>
         <source>DeviceSerialNumber_Tooltip</source>
@@ -74,6 +134,274 @@
     <message>
         <source>DeviceVendorName_Tooltip</source>
         <translation>カメラメーカーの名前。</translation>
+    </message>
+    <message>
+        <source>DeviceVersion_Tooltip</source>
+        <translation>カメラのハードウェアバージョン。</translation>
+    </message>
+    <message>
+        <source>EncoderDivider_Tooltip</source>
+        <translation>エンコーダーのステップを n 回ごとに 1 回だけ数えます。</translation>
+    </message>
+    <message>
+        <source>EncoderMode_Tooltip</source>
+        <translation>エンコーダー信号のエッジの数え方。</translation>
+    </message>
+    <message>
+        <source>EncoderOutputMode_Tooltip</source>
+        <translation>どの方向の動きで出力パルスを出すか。</translation>
+    </message>
+    <message>
+        <source>EncoderReset_Tooltip</source>
+        <translation>エンコーダーの位置を 0 に戻します。</translation>
+    </message>
+    <message>
+        <source>EncoderSelector_Tooltip</source>
+        <translation>設定するエンコーダーを選びます。</translation>
+    </message>
+    <message>
+        <source>EncoderSourceA_Tooltip</source>
+        <translation>エンコーダーの A 相信号の入力ライン。</translation>
+    </message>
+    <message>
+        <source>EncoderSourceB_Tooltip</source>
+        <translation>エンコーダーの B 相信号の入力ライン。</translation>
+    </message>
+    <message>
+        <source>EncoderStatus_Tooltip</source>
+        <translation>エンコーダーの回転方向。</translation>
+    </message>
+    <message>
+        <source>EncoderValue_Tooltip</source>
+        <translation>エンコーダーの現在位置。</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionEnd_Tooltip</source>
+        <translation>「Acquisition End」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionEndData_Tooltip</source>
+        <translation>「Acquisition End」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionEndTimestamp_Tooltip</source>
+        <translation>最後の「Acquisition End」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionStart_Tooltip</source>
+        <translation>「Acquisition Start」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionStartData_Tooltip</source>
+        <translation>「Acquisition Start」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventAcquisitionStartTimestamp_Tooltip</source>
+        <translation>最後の「Acquisition Start」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventCounter0End_Tooltip</source>
+        <translation>「Counter 0 End」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventCounter0EndData_Tooltip</source>
+        <translation>「Counter 0 End」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventCounter0EndTimestamp_Tooltip</source>
+        <translation>最後の「Counter 0 End」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventCriticalTemperature_Tooltip</source>
+        <translation>「Critical Temperature」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventCriticalTemperatureData_Tooltip</source>
+        <translation>「Critical Temperature」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventCriticalTemperatureTimestamp_Tooltip</source>
+        <translation>最後の「Critical Temperature」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventEventOverrun_Tooltip</source>
+        <translation>「Event Overrun」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventEventOverrunData_Tooltip</source>
+        <translation>「Event Overrun」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventEventOverrunTimestamp_Tooltip</source>
+        <translation>最後の「Event Overrun」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventExposureEnd_Tooltip</source>
+        <translation>「Exposure End」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventExposureEndData_Tooltip</source>
+        <translation>「Exposure End」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventExposureEndFrameID_Tooltip</source>
+        <translation>最後の「Exposure End」イベントが属する画像。</translation>
+    </message>
+    <message>
+        <source>EventExposureEndTimestamp_Tooltip</source>
+        <translation>最後の「Exposure End」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventExposureStart_Tooltip</source>
+        <translation>「Exposure Start」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventExposureStartData_Tooltip</source>
+        <translation>「Exposure Start」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventExposureStartFrameID_Tooltip</source>
+        <translation>最後の「Exposure Start」イベントが属する画像。</translation>
+    </message>
+    <message>
+        <source>EventExposureStartTimestamp_Tooltip</source>
+        <translation>最後の「Exposure Start」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStart_Tooltip</source>
+        <translation>「Frame Burst Start」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStartData_Tooltip</source>
+        <translation>「Frame Burst Start」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStartFrameID_Tooltip</source>
+        <translation>最後の「Frame Burst Start」イベントが属する画像。</translation>
+    </message>
+    <message>
+        <source>EventFrameBurstStartTimestamp_Tooltip</source>
+        <translation>最後の「Frame Burst Start」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventFrameEnd_Tooltip</source>
+        <translation>「Frame End」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventFrameEndData_Tooltip</source>
+        <translation>「Frame End」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventFrameEndFrameID_Tooltip</source>
+        <translation>最後の「Frame End」イベントが属する画像。</translation>
+    </message>
+    <message>
+        <source>EventFrameEndTimestamp_Tooltip</source>
+        <translation>最後の「Frame End」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventFrameStart_Tooltip</source>
+        <translation>「Frame Start」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventFrameStartData_Tooltip</source>
+        <translation>「Frame Start」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventFrameStartFrameID_Tooltip</source>
+        <translation>最後の「Frame Start」イベントが属する画像。</translation>
+    </message>
+    <message>
+        <source>EventFrameStartTimestamp_Tooltip</source>
+        <translation>最後の「Frame Start」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissed_Tooltip</source>
+        <translation>「Frame Trigger Missed」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissedData_Tooltip</source>
+        <translation>「Frame Trigger Missed」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissedFrameID_Tooltip</source>
+        <translation>最後の「Frame Trigger Missed」イベントが属する画像。</translation>
+    </message>
+    <message>
+        <source>EventFrameTriggerMissedTimestamp_Tooltip</source>
+        <translation>最後の「Frame Trigger Missed」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventLine0RisingEdge_Tooltip</source>
+        <translation>「Line 0 Rising Edge」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventLine0RisingEdgeData_Tooltip</source>
+        <translation>「Line 0 Rising Edge」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventLine0RisingEdgeTimestamp_Tooltip</source>
+        <translation>最後の「Line 0 Rising Edge」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventLine2RisingEdge_Tooltip</source>
+        <translation>「Line 2 Rising Edge」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventLine2RisingEdgeData_Tooltip</source>
+        <translation>「Line 2 Rising Edge」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventLine2RisingEdgeTimestamp_Tooltip</source>
+        <translation>最後の「Line 2 Rising Edge」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventNotification_Tooltip</source>
+        <translation>選んだイベントをカメラがアプリケーションに通知するかどうか。</translation>
+    </message>
+    <message>
+        <source>EventOverTemperature_Tooltip</source>
+        <translation>「Over Temperature」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventOverTemperatureData_Tooltip</source>
+        <translation>「Over Temperature」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventOverTemperatureTimestamp_Tooltip</source>
+        <translation>最後の「Over Temperature」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventSelector_Tooltip</source>
+        <translation>通知を設定するイベントを選びます。</translation>
+    </message>
+    <message>
+        <source>EventTest_Tooltip</source>
+        <translation>「Test」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventTestData_Tooltip</source>
+        <translation>「Test」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventTestTimestamp_Tooltip</source>
+        <translation>最後の「Test」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventTimer0End_Tooltip</source>
+        <translation>「Timer 0 End」イベントの識別子。</translation>
+    </message>
+    <message>
+        <source>EventTimer0EndData_Tooltip</source>
+        <translation>「Timer 0 End」イベントでカメラが知らせる内容。</translation>
+    </message>
+    <message>
+        <source>EventTimer0EndTimestamp_Tooltip</source>
+        <translation>最後の「Timer 0 End」イベントのタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>EventsGeneration_Tooltip</source>
+        <translation>「Generation」イベントの識別子。</translation>
     </message>
     <message>
         <source>ExposureAuto_Tooltip</source>
@@ -120,6 +448,46 @@
         <translation>カメラが送る画像の高さ (画素)。</translation>
     </message>
     <message>
+        <source>LUTEnable_Tooltip</source>
+        <translation>選んだルックアップテーブルを画素値に適用します。</translation>
+    </message>
+    <message>
+        <source>LUTIndex_Tooltip</source>
+        <translation>LUTValue で読み書きするルックアップテーブルの項目。</translation>
+    </message>
+    <message>
+        <source>LUTSelector_Tooltip</source>
+        <translation>設定するルックアップテーブルを選びます。</translation>
+    </message>
+    <message>
+        <source>LUTValue_Tooltip</source>
+        <translation>LUTIndex で選んだルックアップテーブル項目の値。</translation>
+    </message>
+    <message>
+        <source>LineInverter_Tooltip</source>
+        <translation>選んだラインの信号を反転します。</translation>
+    </message>
+    <message>
+        <source>LineMode_Tooltip</source>
+        <translation>選んだラインが入力か出力か。</translation>
+    </message>
+    <message>
+        <source>LineSelector_Tooltip</source>
+        <translation>設定する I/O ラインを選びます。</translation>
+    </message>
+    <message>
+        <source>LineSource_Tooltip</source>
+        <translation>選んだ出力ラインに出すカメラ内部の信号。</translation>
+    </message>
+    <message>
+        <source>LineStatus_Tooltip</source>
+        <translation>選んだラインの現在のレベル。</translation>
+    </message>
+    <message>
+        <source>LineStatusAll_Tooltip</source>
+        <translation>全ラインのレベルを 1 ラインにつき 1 ビットで表します。</translation>
+    </message>
+    <message>
         <source>OffsetX_Tooltip</source>
         <translation>センサー上の画像領域の水平位置 (左端からの画素数)。</translation>
     </message>
@@ -132,12 +500,44 @@
         <translation>カメラが送る画像の画素フォーマット。</translation>
     </message>
     <message>
+        <source>PtpEnable_Tooltip</source>
+        <translation>PTP でカメラの時計をネットワークに同期させます。</translation>
+    </message>
+    <message>
+        <source>PtpStatus_Tooltip</source>
+        <translation>PTP による時計同期の状態。</translation>
+    </message>
+    <message>
         <source>ReverseX_Tooltip</source>
         <translation>画像を左右反転します。</translation>
     </message>
     <message>
         <source>ReverseY_Tooltip</source>
         <translation>画像を上下反転します。</translation>
+    </message>
+    <message>
+        <source>SoftwareSignalPulse_Tooltip</source>
+        <translation>選んだソフトウェア信号にパルスを出します。</translation>
+    </message>
+    <message>
+        <source>SoftwareSignalSelector_Tooltip</source>
+        <translation>パルスを出すソフトウェア信号を選びます。</translation>
+    </message>
+    <message>
+        <source>TimerDelay_Tooltip</source>
+        <translation>開始信号から選んだタイマーのパルスまでの時間 (マイクロ秒)。</translation>
+    </message>
+    <message>
+        <source>TimerDuration_Tooltip</source>
+        <translation>選んだタイマーのパルス幅 (マイクロ秒)。</translation>
+    </message>
+    <message>
+        <source>TimerSelector_Tooltip</source>
+        <translation>設定するタイマーを選びます。</translation>
+    </message>
+    <message>
+        <source>TimerTriggerSource_Tooltip</source>
+        <translation>選んだタイマーを開始させる信号。</translation>
     </message>
     <message>
         <source>TriggerActivation_Tooltip</source>
@@ -162,6 +562,18 @@
     <message>
         <source>TriggerSource_Tooltip</source>
         <translation>トリガーの入力元: ライン、ソフトウェア、カウンター、タイマー。</translation>
+    </message>
+    <message>
+        <source>UserOutputSelector_Tooltip</source>
+        <translation>設定するユーザー出力を選びます。</translation>
+    </message>
+    <message>
+        <source>UserOutputValue_Tooltip</source>
+        <translation>選んだユーザー出力のレベル。</translation>
+    </message>
+    <message>
+        <source>UserSetDefault_Tooltip</source>
+        <translation>電源投入時にカメラが読み込むユーザーセット。</translation>
     </message>
     <message>
         <source>UserSetLoad_Tooltip</source>
