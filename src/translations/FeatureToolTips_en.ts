@@ -595,42 +595,442 @@
 <context>
     <name>TransportLayer</name>
     <message>
+        <source>CommandDuplicationEnable_Tooltip</source>
+        <translation>Sends every command twice, for networks that lose packets.</translation>
+    </message>
+    <message>
+        <source>Communication_Tooltip</source>
+        <translation>Time-outs and retries of the control connection.</translation>
+    </message>
+    <message>
+        <source>DeviceAccessStatus_Tooltip</source>
+        <translation>How this application has opened the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceBcdUSB_Tooltip</source>
+        <translation>USB version of the camera, in binary-coded decimal.</translation>
+    </message>
+    <message>
+        <source>DeviceDisplayName_Tooltip</source>
+        <translation>Name under which the camera is listed.</translation>
+    </message>
+    <message>
+        <source>DeviceDriverVersion_Tooltip</source>
+        <translation>Version of the USB driver in use.</translation>
+    </message>
+    <message>
+        <source>DeviceEndianessMechanism_Tooltip</source>
+        <translation>How the byte order of the camera registers is handled.</translation>
+    </message>
+    <message>
+        <source>DeviceFamilyName_Tooltip</source>
+        <translation>Product family of the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceFirmwareVersion_Tooltip</source>
+        <translation>Version of the firmware in the camera.</translation>
+    </message>
+    <message>
         <source>DeviceID_Tooltip</source>
         <translation>Identifier of the camera on its transport layer.</translation>
+    </message>
+    <message>
+        <source>DeviceInformation_Tooltip</source>
+        <translation>What identifies the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceManufacturerInfo_Tooltip</source>
+        <translation>Further information from the camera maker.</translation>
+    </message>
+    <message>
+        <source>DeviceModelName_Tooltip</source>
+        <translation>Model name of the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceSerialNumber_Tooltip</source>
+        <translation>Serial number of the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceSpeed_Tooltip</source>
+        <translation>USB speed at which the camera is connected.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>Major version of the transport layer protocol in use.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>Minor version of the transport layer protocol in use.</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>Interface technology of the camera, such as GigE Vision or USB3 Vision.</translation>
+    </message>
+    <message>
+        <source>DeviceUserID_Tooltip</source>
+        <translation>Name you gave the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceVendorName_Tooltip</source>
+        <translation>Name of the camera maker.</translation>
+    </message>
+    <message>
+        <source>DeviceVersion_Tooltip</source>
+        <translation>Version of the camera.</translation>
+    </message>
+    <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>Access right this application holds on the camera: exclusive, control or monitor.</translation>
+    </message>
+    <message>
+        <source>GevDeviceDefaultGateway_Tooltip</source>
+        <translation>Default gateway of the camera.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceGateway_Tooltip</source>
+        <translation>Gateway that GevDeviceForceIP gives the camera.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIP_Tooltip</source>
+        <translation>Gives a camera outside this computer's subnet a temporary address.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIPAddress_Tooltip</source>
+        <translation>Address that GevDeviceForceIP gives the camera.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceSubnetMask_Tooltip</source>
+        <translation>Subnet mask that GevDeviceForceIP gives the camera.</translation>
     </message>
     <message>
         <source>GevDeviceIPAddress_Tooltip</source>
         <translation>IP address of the camera as the host sees it.</translation>
     </message>
     <message>
+        <source>GevDeviceMACAddress_Tooltip</source>
+        <translation>MAC address of the camera.</translation>
+    </message>
+    <message>
+        <source>GevDevicePort_Tooltip</source>
+        <translation>UDP port of the camera control connection.</translation>
+    </message>
+    <message>
+        <source>GevDeviceSubnetMask_Tooltip</source>
+        <translation>Subnet mask of the camera.</translation>
+    </message>
+    <message>
+        <source>GevInterfaceIPAddress_Tooltip</source>
+        <translation>Address of the network adapter of this computer that reaches the camera.</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>Major GigE Vision version of the camera.</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>Minor GigE Vision version of the camera.</translation>
+    </message>
+    <message>
+        <source>GigEVisionDevice_Tooltip</source>
+        <translation>Network identity of the camera.</translation>
+    </message>
+    <message>
         <source>HeartbeatTimeout_Tooltip</source>
         <translation>Time without a heartbeat after which the camera gives up the connection, in milliseconds.</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountRead_Tooltip</source>
+        <translation>How often a read without answer is sent again.</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountWrite_Tooltip</source>
+        <translation>How often a write without answer is sent again.</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>Largest control transfer, in bytes.</translation>
+    </message>
+    <message>
+        <source>MaximumNumberOfRetries_Tooltip</source>
+        <translation>How often a failed USB transfer is repeated.</translation>
+    </message>
+    <message>
+        <source>MigrationModeEnable_Tooltip</source>
+        <translation>Makes the camera behave like the older model family, for existing applications.</translation>
+    </message>
+    <message>
+        <source>ReadTimeout_Tooltip</source>
+        <translation>How long to wait for the answer to a read, in milliseconds.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>The camera as its transport layer sees it.</translation>
+    </message>
+    <message>
+        <source>USB3VisionDevice_Tooltip</source>
+        <translation>USB identity of the camera.</translation>
+    </message>
+    <message>
+        <source>WriteTimeout_Tooltip</source>
+        <translation>How long to wait for the answer to a write, in milliseconds.</translation>
     </message>
 </context>
 <context>
     <name>StreamGrabber</name>
     <message>
+        <source>AccessMode_Tooltip</source>
+        <translation>How the image stream is opened.</translation>
+    </message>
+    <message>
+        <source>DestinationAddr_Tooltip</source>
+        <translation>Multicast address the images are sent to.</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>Port the images arrive at; 0 picks a free one.</translation>
+    </message>
+    <message>
+        <source>EnableResend_Tooltip</source>
+        <translation>Asks the camera again for packets that got lost.</translation>
+    </message>
+    <message>
+        <source>FrameRetention_Tooltip</source>
+        <translation>Time after which an incomplete image is given up, in milliseconds.</translation>
+    </message>
+    <message>
+        <source>GigEStream_Tooltip</source>
+        <translation>Settings of the network image stream.</translation>
+    </message>
+    <message>
+        <source>IIDCStream_Tooltip</source>
+        <translation>Settings of the isochronous stream.</translation>
+    </message>
+    <message>
+        <source>MaxBufferSize_Tooltip</source>
+        <translation>Size of the largest buffer the stream fills, in bytes.</translation>
+    </message>
+    <message>
         <source>MaxNumBuffer_Tooltip</source>
         <translation>Number of image buffers the grabber allocates.</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedBuffer_Tooltip</source>
+        <translation>Largest number of buffers waiting to be filled at a time.</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>Size of one USB transfer, in bytes.</translation>
+    </message>
+    <message>
+        <source>MaximumNumberResendRequests_Tooltip</source>
+        <translation>Largest number of resend requests for one image.</translation>
+    </message>
+    <message>
+        <source>NumIsoPackets_Tooltip</source>
+        <translation>Isochronous packets gathered in one request.</translation>
+    </message>
+    <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>Number of USB requests kept waiting with the driver.</translation>
+    </message>
+    <message>
+        <source>PacketResend_Tooltip</source>
+        <translation>Recovery of lost network packets.</translation>
     </message>
     <message>
         <source>PacketTimeout_Tooltip</source>
         <translation>How long to wait for a missing packet before asking for it again, in milliseconds.</translation>
     </message>
     <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>Priority of the thread that receives the images.</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>Gives the receiving thread the priority set in ReceiveThreadPriority.</translation>
+    </message>
+    <message>
+        <source>ResendRequestBatching_Tooltip</source>
+        <translation>Part of the image, in percent, over which resend requests are gathered.</translation>
+    </message>
+    <message>
+        <source>ResendRequestResponseTimeout_Tooltip</source>
+        <translation>How long to wait for a packet sent again, in milliseconds.</translation>
+    </message>
+    <message>
+        <source>ResendRequestThreshold_Tooltip</source>
+        <translation>Part of the image, in percent, after which a gap is reported.</translation>
+    </message>
+    <message>
+        <source>ResendTimeout_Tooltip</source>
+        <translation>How long to wait before asking for a lost packet, in milliseconds.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>Receives the images of the camera.</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>Size of the receive buffer of the network socket, in kilobytes.</translation>
+    </message>
+    <message>
+        <source>Statistic_Tooltip</source>
+        <translation>Counters of the image stream.</translation>
+    </message>
+    <message>
+        <source>StatisticReset_Tooltip</source>
+        <translation>Sets the stream counters back to zero.</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Fill_Level_Tooltip</source>
+        <translation>Share of the waiting buffers that already hold an image, in percent.</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Underrun_Count_Tooltip</source>
+        <translation>Number of images lost because no buffer was waiting.</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Buffer_Count_Tooltip</source>
+        <translation>Number of buffers that came back with an error.</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Packet_Count_Tooltip</source>
+        <translation>Number of packets received with an error.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Block_Id_Tooltip</source>
+        <translation>Number of the last image block received.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Tooltip</source>
+        <translation>Status code of the last buffer that failed.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Text_Tooltip</source>
+        <translation>What went wrong with the last buffer that failed.</translation>
+    </message>
+    <message>
+        <source>Statistic_Missed_Frame_Count_Tooltip</source>
+        <translation>Number of images the camera sent that never arrived.</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Packet_Count_Tooltip</source>
+        <translation>Number of packets asked for again.</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Request_Count_Tooltip</source>
+        <translation>Number of resend requests sent to the camera.</translation>
+    </message>
+    <message>
+        <source>Statistic_Resynchronization_Count_Tooltip</source>
+        <translation>How often the stream had to get back in step.</translation>
+    </message>
+    <message>
         <source>Statistic_Total_Buffer_Count_Tooltip</source>
         <translation>Number of buffers received since the statistics were last reset.</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Packet_Count_Tooltip</source>
+        <translation>Number of packets received.</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>State of the image stream.</translation>
+    </message>
+    <message>
+        <source>TransferLoopThreadPriority_Tooltip</source>
+        <translation>Priority of the thread that queues the USB requests.</translation>
+    </message>
+    <message>
+        <source>TransmissionType_Tooltip</source>
+        <translation>How the image stream is addressed: to this computer alone or to a multicast group.</translation>
+    </message>
+    <message>
+        <source>Type_Tooltip</source>
+        <translation>Driver that receives the images.</translation>
+    </message>
+    <message>
+        <source>Usb3Stream_Tooltip</source>
+        <translation>Settings of the USB transfers.</translation>
     </message>
 </context>
 <context>
     <name>EventGrabber</name>
     <message>
+        <source>BufferSize_Tooltip</source>
+        <translation>Size of one event buffer, in bytes.</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>Port the events arrive at; 0 picks a free one.</translation>
+    </message>
+    <message>
+        <source>EventDeliveryMode_Tooltip</source>
+        <translation>How received events reach the application.</translation>
+    </message>
+    <message>
+        <source>EventStatistic_Tooltip</source>
+        <translation>Counters of the event channel.</translation>
+    </message>
+    <message>
+        <source>EventStatisticReset_Tooltip</source>
+        <translation>Sets the event counters back to zero.</translation>
+    </message>
+    <message>
+        <source>MaxEventSize_Tooltip</source>
+        <translation>Largest event message the camera sends, with its data, in bytes.</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedEvents_Tooltip</source>
+        <translation>Events kept while the application does not fetch them.</translation>
+    </message>
+    <message>
         <source>NumBuffer_Tooltip</source>
         <translation>Number of buffers kept for incoming events.</translation>
     </message>
     <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>Number of USB requests kept waiting for events.</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>Priority of the thread that receives the events.</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>Gives the event thread the priority set in ReceiveThreadPriority.</translation>
+    </message>
+    <message>
         <source>RetryCount_Tooltip</source>
         <translation>How often an event is asked for again before it is given up.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>Receives the event messages of the camera.</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>Size of the receive buffer of the network socket, in kilobytes.</translation>
+    </message>
+    <message>
+        <source>Statistic_Event_Overrun_Count_Tooltip</source>
+        <translation>Number of events lost because no buffer was free.</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Event_Count_Tooltip</source>
+        <translation>Number of events received with an error.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Event_ID_Tooltip</source>
+        <translation>Identifier of the last event received.</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Event_Count_Tooltip</source>
+        <translation>Number of events received.</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>State of the event channel.</translation>
     </message>
     <message>
         <source>Timeout_Tooltip</source>
@@ -640,16 +1040,112 @@
 <context>
     <name>ImageFormatConverter</name>
     <message>
+        <source>AdditionalLeftShift_Tooltip</source>
+        <translation>Bits by which the data is shifted left before the low bits are dropped.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentControl_Tooltip</source>
+        <translation>Hue and saturation for each colour.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentEnable_Tooltip</source>
+        <translation>Applies the hue and saturation settings.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentHue_Tooltip</source>
+        <translation>Hue shift of the selected colour.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSaturation_Tooltip</source>
+        <translation>Saturation of the selected colour.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSelector_Tooltip</source>
+        <translation>Chooses the colour to adjust.</translation>
+    </message>
+    <message>
+        <source>ColorConversion_Tooltip</source>
+        <translation>Conversion of colour images.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>Colour transformation matrix.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationMatrixFactor_Tooltip</source>
+        <translation>How strongly the colour transformation is applied.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>Chooses the colour transformation.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>Value of the selected matrix coefficient.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>Chooses a coefficient of the matrix.</translation>
+    </message>
+    <message>
+        <source>DemosaicingMethod_Tooltip</source>
+        <translation>How full colour is worked out from the Bayer pattern.</translation>
+    </message>
+    <message>
         <source>Gamma_Tooltip</source>
         <translation>Gamma correction applied during the conversion.</translation>
+    </message>
+    <message>
+        <source>InconvertibleEdgeHandling_Tooltip</source>
+        <translation>What happens to the edge pixels that cannot be demosaiced.</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>Colour correction for the kind of lighting.</translation>
     </message>
     <message>
         <source>MaxNumThreads_Tooltip</source>
         <translation>Largest number of threads the converter may use.</translation>
     </message>
     <message>
+        <source>MonoConversion_Tooltip</source>
+        <translation>Reduction of the bit depth of monochrome data.</translation>
+    </message>
+    <message>
+        <source>MonoConversionMethod_Tooltip</source>
+        <translation>How pixel data wider than 8 bits is brought down to 8 bits.</translation>
+    </message>
+    <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>Noise reduction applied in high-quality demosaicing.</translation>
+    </message>
+    <message>
+        <source>OutputBitAlignment_Tooltip</source>
+        <translation>Where pixel data narrower than its container sits: at the top or the bottom bits.</translation>
+    </message>
+    <message>
+        <source>OutputFormat_Tooltip</source>
+        <translation>Format of the converted image.</translation>
+    </message>
+    <message>
+        <source>OutputOrientation_Tooltip</source>
+        <translation>Order of the lines in the converted image: top down or bottom up.</translation>
+    </message>
+    <message>
+        <source>OutputPaddingX_Tooltip</source>
+        <translation>Bytes added at the end of every line of the converted image.</translation>
+    </message>
+    <message>
         <source>OutputPixelFormat_Tooltip</source>
         <translation>Pixel format of the converted images.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>Converts received images for display and processing.</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>Sharpening applied in high-quality demosaicing.</translation>
     </message>
 </context>
 </TS>

@@ -595,42 +595,442 @@
 <context>
     <name>TransportLayer</name>
     <message>
+        <source>CommandDuplicationEnable_Tooltip</source>
+        <translation>パケットが失われやすいネットワーク向けに、各コマンドを 2 回送ります。</translation>
+    </message>
+    <message>
+        <source>Communication_Tooltip</source>
+        <translation>制御接続のタイムアウトと再試行。</translation>
+    </message>
+    <message>
+        <source>DeviceAccessStatus_Tooltip</source>
+        <translation>このアプリケーションがカメラをどのように開いているか。</translation>
+    </message>
+    <message>
+        <source>DeviceBcdUSB_Tooltip</source>
+        <translation>カメラの USB バージョン (BCD)。</translation>
+    </message>
+    <message>
+        <source>DeviceDisplayName_Tooltip</source>
+        <translation>カメラが一覧に表示される名前。</translation>
+    </message>
+    <message>
+        <source>DeviceDriverVersion_Tooltip</source>
+        <translation>使用中の USB ドライバーのバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceEndianessMechanism_Tooltip</source>
+        <translation>カメラのレジスタのバイト順の扱い方。</translation>
+    </message>
+    <message>
+        <source>DeviceFamilyName_Tooltip</source>
+        <translation>カメラの製品ファミリー。</translation>
+    </message>
+    <message>
+        <source>DeviceFirmwareVersion_Tooltip</source>
+        <translation>カメラのファームウェアのバージョン。</translation>
+    </message>
+    <message>
         <source>DeviceID_Tooltip</source>
         <translation>トランスポート層でのカメラの識別子。</translation>
+    </message>
+    <message>
+        <source>DeviceInformation_Tooltip</source>
+        <translation>カメラを識別する情報。</translation>
+    </message>
+    <message>
+        <source>DeviceManufacturerInfo_Tooltip</source>
+        <translation>カメラメーカーからの追加情報。</translation>
+    </message>
+    <message>
+        <source>DeviceModelName_Tooltip</source>
+        <translation>カメラの型式名。</translation>
+    </message>
+    <message>
+        <source>DeviceSerialNumber_Tooltip</source>
+        <translation>カメラのシリアル番号。</translation>
+    </message>
+    <message>
+        <source>DeviceSpeed_Tooltip</source>
+        <translation>カメラの USB 接続速度。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>使用中のトランスポート層プロトコルのメジャーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>使用中のトランスポート層プロトコルのマイナーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>GigE Vision や USB3 Vision などのカメラのインターフェース規格。</translation>
+    </message>
+    <message>
+        <source>DeviceUserID_Tooltip</source>
+        <translation>ユーザーがカメラに付けた名前。</translation>
+    </message>
+    <message>
+        <source>DeviceVendorName_Tooltip</source>
+        <translation>カメラメーカーの名前。</translation>
+    </message>
+    <message>
+        <source>DeviceVersion_Tooltip</source>
+        <translation>カメラのバージョン。</translation>
+    </message>
+    <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>このアプリケーションが持つカメラへのアクセス権: 排他、制御、監視。</translation>
+    </message>
+    <message>
+        <source>GevDeviceDefaultGateway_Tooltip</source>
+        <translation>カメラのデフォルトゲートウェイ。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceGateway_Tooltip</source>
+        <translation>GevDeviceForceIP でカメラに割り当てるゲートウェイ。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIP_Tooltip</source>
+        <translation>このコンピューターのサブネット外にあるカメラに一時的なアドレスを割り当てます。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIPAddress_Tooltip</source>
+        <translation>GevDeviceForceIP でカメラに割り当てるアドレス。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceSubnetMask_Tooltip</source>
+        <translation>GevDeviceForceIP でカメラに割り当てるサブネットマスク。</translation>
     </message>
     <message>
         <source>GevDeviceIPAddress_Tooltip</source>
         <translation>ホストから見たカメラの IP アドレス。</translation>
     </message>
     <message>
+        <source>GevDeviceMACAddress_Tooltip</source>
+        <translation>カメラの MAC アドレス。</translation>
+    </message>
+    <message>
+        <source>GevDevicePort_Tooltip</source>
+        <translation>カメラ制御接続の UDP ポート。</translation>
+    </message>
+    <message>
+        <source>GevDeviceSubnetMask_Tooltip</source>
+        <translation>カメラのサブネットマスク。</translation>
+    </message>
+    <message>
+        <source>GevInterfaceIPAddress_Tooltip</source>
+        <translation>カメラにつながるこのコンピューターのネットワークアダプターのアドレス。</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>カメラの GigE Vision メジャーバージョン。</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>カメラの GigE Vision マイナーバージョン。</translation>
+    </message>
+    <message>
+        <source>GigEVisionDevice_Tooltip</source>
+        <translation>カメラのネットワーク上の識別情報。</translation>
+    </message>
+    <message>
         <source>HeartbeatTimeout_Tooltip</source>
         <translation>ハートビートがないままこの時間 (ミリ秒) が過ぎると、カメラは接続を切ります。</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountRead_Tooltip</source>
+        <translation>応答のない読み出し要求を再送する回数。</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountWrite_Tooltip</source>
+        <translation>応答のない書き込み要求を再送する回数。</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>制御転送の最大サイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>MaximumNumberOfRetries_Tooltip</source>
+        <translation>失敗した USB 転送を繰り返す回数。</translation>
+    </message>
+    <message>
+        <source>MigrationModeEnable_Tooltip</source>
+        <translation>既存のアプリケーションのために、カメラを旧モデルファミリーと同じように動作させます。</translation>
+    </message>
+    <message>
+        <source>ReadTimeout_Tooltip</source>
+        <translation>読み出し要求の応答を待つ時間 (ミリ秒)。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>トランスポート層から見たカメラ。</translation>
+    </message>
+    <message>
+        <source>USB3VisionDevice_Tooltip</source>
+        <translation>カメラの USB 識別情報。</translation>
+    </message>
+    <message>
+        <source>WriteTimeout_Tooltip</source>
+        <translation>書き込み要求の応答を待つ時間 (ミリ秒)。</translation>
     </message>
 </context>
 <context>
     <name>StreamGrabber</name>
     <message>
+        <source>AccessMode_Tooltip</source>
+        <translation>画像ストリームの開き方。</translation>
+    </message>
+    <message>
+        <source>DestinationAddr_Tooltip</source>
+        <translation>画像の送信先マルチキャストアドレス。</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>画像を受信するポート。0 なら空きポートを使います。</translation>
+    </message>
+    <message>
+        <source>EnableResend_Tooltip</source>
+        <translation>失われたパケットをカメラに再要求します。</translation>
+    </message>
+    <message>
+        <source>FrameRetention_Tooltip</source>
+        <translation>不完全な画像をあきらめるまでの時間 (ミリ秒)。</translation>
+    </message>
+    <message>
+        <source>GigEStream_Tooltip</source>
+        <translation>ネットワーク画像ストリームの設定。</translation>
+    </message>
+    <message>
+        <source>IIDCStream_Tooltip</source>
+        <translation>アイソクロナスストリームの設定。</translation>
+    </message>
+    <message>
+        <source>MaxBufferSize_Tooltip</source>
+        <translation>ストリームが埋める最大バッファのサイズ (バイト)。</translation>
+    </message>
+    <message>
         <source>MaxNumBuffer_Tooltip</source>
         <translation>グラバーが確保する画像バッファの数。</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedBuffer_Tooltip</source>
+        <translation>同時に受信待ちにできるバッファの最大数。</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>1 回の USB 転送のサイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>MaximumNumberResendRequests_Tooltip</source>
+        <translation>1 枚の画像に対する再送要求の最大数。</translation>
+    </message>
+    <message>
+        <source>NumIsoPackets_Tooltip</source>
+        <translation>1 回の要求でまとめるアイソクロナスパケットの数。</translation>
+    </message>
+    <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>ドライバーに待機させておく USB 要求の数。</translation>
+    </message>
+    <message>
+        <source>PacketResend_Tooltip</source>
+        <translation>失われたネットワークパケットの回復。</translation>
     </message>
     <message>
         <source>PacketTimeout_Tooltip</source>
         <translation>欠けたパケットを再要求するまで待つ時間 (ミリ秒)。</translation>
     </message>
     <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>画像を受信するスレッドの優先度。</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>受信スレッドに ReceiveThreadPriority の優先度を使います。</translation>
+    </message>
+    <message>
+        <source>ResendRequestBatching_Tooltip</source>
+        <translation>再送要求をまとめる画像の範囲 (%)。</translation>
+    </message>
+    <message>
+        <source>ResendRequestResponseTimeout_Tooltip</source>
+        <translation>再送されたパケットを待つ時間 (ミリ秒)。</translation>
+    </message>
+    <message>
+        <source>ResendRequestThreshold_Tooltip</source>
+        <translation>欠落を報告するまでに受け取る画像の割合 (%)。</translation>
+    </message>
+    <message>
+        <source>ResendTimeout_Tooltip</source>
+        <translation>失われたパケットを再要求するまでの待ち時間 (ミリ秒)。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>カメラの画像を受信します。</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>ネットワークソケットの受信バッファのサイズ (KB)。</translation>
+    </message>
+    <message>
+        <source>Statistic_Tooltip</source>
+        <translation>画像ストリームのカウンター。</translation>
+    </message>
+    <message>
+        <source>StatisticReset_Tooltip</source>
+        <translation>ストリームのカウンターを 0 に戻します。</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Fill_Level_Tooltip</source>
+        <translation>待機中のバッファのうち画像が入っている割合 (%)。</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Underrun_Count_Tooltip</source>
+        <translation>待機中のバッファがなく失われた画像の数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Buffer_Count_Tooltip</source>
+        <translation>エラーで戻ったバッファの数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Packet_Count_Tooltip</source>
+        <translation>エラー付きで受信したパケットの数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Block_Id_Tooltip</source>
+        <translation>最後に受信した画像ブロックの番号。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Tooltip</source>
+        <translation>最後に失敗したバッファのステータスコード。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Text_Tooltip</source>
+        <translation>最後に失敗したバッファで何が起きたか。</translation>
+    </message>
+    <message>
+        <source>Statistic_Missed_Frame_Count_Tooltip</source>
+        <translation>カメラが送ったのに届かなかった画像の数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Packet_Count_Tooltip</source>
+        <translation>再要求したパケットの数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Request_Count_Tooltip</source>
+        <translation>カメラに送った再送要求の数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Resynchronization_Count_Tooltip</source>
+        <translation>ストリームの再同期が必要になった回数。</translation>
+    </message>
+    <message>
         <source>Statistic_Total_Buffer_Count_Tooltip</source>
         <translation>統計を最後にリセットしてから受信したバッファの数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Packet_Count_Tooltip</source>
+        <translation>受信したパケットの数。</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>画像ストリームの状態。</translation>
+    </message>
+    <message>
+        <source>TransferLoopThreadPriority_Tooltip</source>
+        <translation>USB 要求をキューに入れるスレッドの優先度。</translation>
+    </message>
+    <message>
+        <source>TransmissionType_Tooltip</source>
+        <translation>画像ストリームの宛先: このコンピューターのみ、またはマルチキャストグループ。</translation>
+    </message>
+    <message>
+        <source>Type_Tooltip</source>
+        <translation>画像を受信するドライバー。</translation>
+    </message>
+    <message>
+        <source>Usb3Stream_Tooltip</source>
+        <translation>USB 転送の設定。</translation>
     </message>
 </context>
 <context>
     <name>EventGrabber</name>
     <message>
+        <source>BufferSize_Tooltip</source>
+        <translation>イベントバッファ 1 つのサイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>イベントを受信するポート。0 なら空きポートを使います。</translation>
+    </message>
+    <message>
+        <source>EventDeliveryMode_Tooltip</source>
+        <translation>受信したイベントをアプリケーションに渡す方法。</translation>
+    </message>
+    <message>
+        <source>EventStatistic_Tooltip</source>
+        <translation>イベントチャンネルのカウンター。</translation>
+    </message>
+    <message>
+        <source>EventStatisticReset_Tooltip</source>
+        <translation>イベントのカウンターを 0 に戻します。</translation>
+    </message>
+    <message>
+        <source>MaxEventSize_Tooltip</source>
+        <translation>カメラが送るイベントメッセージの最大サイズ (データを含む、バイト)。</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedEvents_Tooltip</source>
+        <translation>アプリケーションが取り出さない間に保持するイベントの数。</translation>
+    </message>
+    <message>
         <source>NumBuffer_Tooltip</source>
         <translation>受信するイベント用に確保するバッファの数。</translation>
     </message>
     <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>イベント用に待機させておく USB 要求の数。</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>イベントを受信するスレッドの優先度。</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>イベントスレッドに ReceiveThreadPriority の優先度を使います。</translation>
+    </message>
+    <message>
         <source>RetryCount_Tooltip</source>
         <translation>イベントをあきらめるまでに再要求する回数。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>カメラのイベントメッセージを受信します。</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>ネットワークソケットの受信バッファのサイズ (KB)。</translation>
+    </message>
+    <message>
+        <source>Statistic_Event_Overrun_Count_Tooltip</source>
+        <translation>空きバッファがなく失われたイベントの数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Event_Count_Tooltip</source>
+        <translation>エラー付きで受信したイベントの数。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Event_ID_Tooltip</source>
+        <translation>最後に受信したイベントの識別子。</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Event_Count_Tooltip</source>
+        <translation>受信したイベントの数。</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>イベントチャンネルの状態。</translation>
     </message>
     <message>
         <source>Timeout_Tooltip</source>
@@ -640,16 +1040,112 @@
 <context>
     <name>ImageFormatConverter</name>
     <message>
+        <source>AdditionalLeftShift_Tooltip</source>
+        <translation>下位ビットを捨てる前にデータを左へシフトするビット数。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentControl_Tooltip</source>
+        <translation>色ごとの色相と彩度。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentEnable_Tooltip</source>
+        <translation>色相と彩度の設定を適用します。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentHue_Tooltip</source>
+        <translation>選んだ色の色相のずれ。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSaturation_Tooltip</source>
+        <translation>選んだ色の彩度。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSelector_Tooltip</source>
+        <translation>調整する色を選びます。</translation>
+    </message>
+    <message>
+        <source>ColorConversion_Tooltip</source>
+        <translation>カラー画像の変換。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>色変換マトリクス。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationMatrixFactor_Tooltip</source>
+        <translation>色変換をかける強さ。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>色変換の種類を選びます。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>選んだマトリクス係数の値。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>マトリクスの係数を選びます。</translation>
+    </message>
+    <message>
+        <source>DemosaicingMethod_Tooltip</source>
+        <translation>ベイヤー配列からフルカラーを求める方法。</translation>
+    </message>
+    <message>
         <source>Gamma_Tooltip</source>
         <translation>変換時にかけるガンマ補正。</translation>
+    </message>
+    <message>
+        <source>InconvertibleEdgeHandling_Tooltip</source>
+        <translation>デモザイクできない端の画素の扱い。</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>照明の種類に合わせた色補正。</translation>
     </message>
     <message>
         <source>MaxNumThreads_Tooltip</source>
         <translation>変換に使うスレッドの最大数。</translation>
     </message>
     <message>
+        <source>MonoConversion_Tooltip</source>
+        <translation>モノクロデータのビット深度の削減。</translation>
+    </message>
+    <message>
+        <source>MonoConversionMethod_Tooltip</source>
+        <translation>8 ビットを超える画素データを 8 ビットにする方法。</translation>
+    </message>
+    <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>高画質デモザイク時にかけるノイズ低減。</translation>
+    </message>
+    <message>
+        <source>OutputBitAlignment_Tooltip</source>
+        <translation>コンテナより狭い画素データを上位ビットと下位ビットのどちらに揃えるか。</translation>
+    </message>
+    <message>
+        <source>OutputFormat_Tooltip</source>
+        <translation>変換後の画像のフォーマット。</translation>
+    </message>
+    <message>
+        <source>OutputOrientation_Tooltip</source>
+        <translation>変換後の画像のライン順: 上から下、または下から上。</translation>
+    </message>
+    <message>
+        <source>OutputPaddingX_Tooltip</source>
+        <translation>変換後の画像の各ラインの末尾に加えるバイト数。</translation>
+    </message>
+    <message>
         <source>OutputPixelFormat_Tooltip</source>
         <translation>変換後の画像の画素フォーマット。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>受信した画像を表示や処理のために変換します。</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>高画質デモザイク時にかけるシャープ処理。</translation>
     </message>
 </context>
 </TS>

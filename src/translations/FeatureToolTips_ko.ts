@@ -595,42 +595,442 @@
 <context>
     <name>TransportLayer</name>
     <message>
+        <source>CommandDuplicationEnable_Tooltip</source>
+        <translation>패킷이 자주 손실되는 네트워크를 위해 모든 명령을 두 번 보냅니다.</translation>
+    </message>
+    <message>
+        <source>Communication_Tooltip</source>
+        <translation>제어 연결의 타임아웃과 재시도입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceAccessStatus_Tooltip</source>
+        <translation>이 애플리케이션이 카메라를 어떻게 열었는지입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceBcdUSB_Tooltip</source>
+        <translation>카메라의 USB 버전(BCD)입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceDisplayName_Tooltip</source>
+        <translation>카메라가 목록에 표시되는 이름입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceDriverVersion_Tooltip</source>
+        <translation>사용 중인 USB 드라이버의 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceEndianessMechanism_Tooltip</source>
+        <translation>카메라 레지스터의 바이트 순서를 처리하는 방식입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceFamilyName_Tooltip</source>
+        <translation>카메라의 제품군입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceFirmwareVersion_Tooltip</source>
+        <translation>카메라 펌웨어의 버전입니다.</translation>
+    </message>
+    <message>
         <source>DeviceID_Tooltip</source>
         <translation>전송 계층에서의 카메라 식별자입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceInformation_Tooltip</source>
+        <translation>카메라를 식별하는 정보입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceManufacturerInfo_Tooltip</source>
+        <translation>카메라 제조사의 추가 정보입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceModelName_Tooltip</source>
+        <translation>카메라의 모델 이름입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceSerialNumber_Tooltip</source>
+        <translation>카메라의 일련번호입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceSpeed_Tooltip</source>
+        <translation>카메라가 연결된 USB 속도입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>사용 중인 전송 계층 프로토콜의 주 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>사용 중인 전송 계층 프로토콜의 부 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>GigE Vision, USB3 Vision 같은 카메라 인터페이스 방식입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceUserID_Tooltip</source>
+        <translation>사용자가 카메라에 붙인 이름입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceVendorName_Tooltip</source>
+        <translation>카메라 제조사 이름입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceVersion_Tooltip</source>
+        <translation>카메라의 버전입니다.</translation>
+    </message>
+    <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>이 애플리케이션이 카메라에 대해 가진 접근 권한: 독점, 제어, 모니터.</translation>
+    </message>
+    <message>
+        <source>GevDeviceDefaultGateway_Tooltip</source>
+        <translation>카메라의 기본 게이트웨이입니다.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceGateway_Tooltip</source>
+        <translation>GevDeviceForceIP가 카메라에 주는 게이트웨이입니다.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIP_Tooltip</source>
+        <translation>이 컴퓨터의 서브넷 밖에 있는 카메라에 임시 주소를 줍니다.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIPAddress_Tooltip</source>
+        <translation>GevDeviceForceIP가 카메라에 주는 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceSubnetMask_Tooltip</source>
+        <translation>GevDeviceForceIP가 카메라에 주는 서브넷 마스크입니다.</translation>
     </message>
     <message>
         <source>GevDeviceIPAddress_Tooltip</source>
         <translation>호스트에서 본 카메라의 IP 주소입니다.</translation>
     </message>
     <message>
+        <source>GevDeviceMACAddress_Tooltip</source>
+        <translation>카메라의 MAC 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevDevicePort_Tooltip</source>
+        <translation>카메라 제어 연결의 UDP 포트입니다.</translation>
+    </message>
+    <message>
+        <source>GevDeviceSubnetMask_Tooltip</source>
+        <translation>카메라의 서브넷 마스크입니다.</translation>
+    </message>
+    <message>
+        <source>GevInterfaceIPAddress_Tooltip</source>
+        <translation>카메라와 연결된 이 컴퓨터 네트워크 어댑터의 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>카메라의 GigE Vision 주 버전입니다.</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>카메라의 GigE Vision 부 버전입니다.</translation>
+    </message>
+    <message>
+        <source>GigEVisionDevice_Tooltip</source>
+        <translation>카메라의 네트워크 식별 정보입니다.</translation>
+    </message>
+    <message>
         <source>HeartbeatTimeout_Tooltip</source>
         <translation>하트비트 없이 이 시간(밀리초)이 지나면 카메라가 연결을 끊습니다.</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountRead_Tooltip</source>
+        <translation>응답 없는 읽기 요청을 다시 보내는 횟수입니다.</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountWrite_Tooltip</source>
+        <translation>응답 없는 쓰기 요청을 다시 보내는 횟수입니다.</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>제어 전송의 최대 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>MaximumNumberOfRetries_Tooltip</source>
+        <translation>실패한 USB 전송을 반복하는 횟수입니다.</translation>
+    </message>
+    <message>
+        <source>MigrationModeEnable_Tooltip</source>
+        <translation>기존 애플리케이션을 위해 카메라가 이전 모델군처럼 동작하게 합니다.</translation>
+    </message>
+    <message>
+        <source>ReadTimeout_Tooltip</source>
+        <translation>읽기 요청의 응답을 기다리는 시간(밀리초)입니다.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>전송 계층에서 본 카메라입니다.</translation>
+    </message>
+    <message>
+        <source>USB3VisionDevice_Tooltip</source>
+        <translation>카메라의 USB 식별 정보입니다.</translation>
+    </message>
+    <message>
+        <source>WriteTimeout_Tooltip</source>
+        <translation>쓰기 요청의 응답을 기다리는 시간(밀리초)입니다.</translation>
     </message>
 </context>
 <context>
     <name>StreamGrabber</name>
     <message>
+        <source>AccessMode_Tooltip</source>
+        <translation>이미지 스트림을 여는 방식입니다.</translation>
+    </message>
+    <message>
+        <source>DestinationAddr_Tooltip</source>
+        <translation>이미지를 보내는 멀티캐스트 주소입니다.</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>이미지를 받는 포트입니다. 0이면 빈 포트를 고릅니다.</translation>
+    </message>
+    <message>
+        <source>EnableResend_Tooltip</source>
+        <translation>손실된 패킷을 카메라에 다시 요청합니다.</translation>
+    </message>
+    <message>
+        <source>FrameRetention_Tooltip</source>
+        <translation>불완전한 이미지를 포기하기까지의 시간(밀리초)입니다.</translation>
+    </message>
+    <message>
+        <source>GigEStream_Tooltip</source>
+        <translation>네트워크 이미지 스트림 설정입니다.</translation>
+    </message>
+    <message>
+        <source>IIDCStream_Tooltip</source>
+        <translation>등시성 스트림 설정입니다.</translation>
+    </message>
+    <message>
+        <source>MaxBufferSize_Tooltip</source>
+        <translation>스트림이 채우는 가장 큰 버퍼의 크기(바이트)입니다.</translation>
+    </message>
+    <message>
         <source>MaxNumBuffer_Tooltip</source>
         <translation>그래버가 할당하는 이미지 버퍼 수입니다.</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedBuffer_Tooltip</source>
+        <translation>한 번에 채워지기를 기다릴 수 있는 버퍼의 최대 수입니다.</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>USB 전송 한 번의 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>MaximumNumberResendRequests_Tooltip</source>
+        <translation>이미지 한 장에 대한 재전송 요청의 최대 수입니다.</translation>
+    </message>
+    <message>
+        <source>NumIsoPackets_Tooltip</source>
+        <translation>요청 한 번에 모으는 등시성 패킷 수입니다.</translation>
+    </message>
+    <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>드라이버에 대기시켜 두는 USB 요청 수입니다.</translation>
+    </message>
+    <message>
+        <source>PacketResend_Tooltip</source>
+        <translation>손실된 네트워크 패킷의 복구입니다.</translation>
     </message>
     <message>
         <source>PacketTimeout_Tooltip</source>
         <translation>빠진 패킷을 다시 요청하기 전에 기다리는 시간(밀리초)입니다.</translation>
     </message>
     <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>이미지를 받는 스레드의 우선순위입니다.</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>수신 스레드에 ReceiveThreadPriority의 우선순위를 씁니다.</translation>
+    </message>
+    <message>
+        <source>ResendRequestBatching_Tooltip</source>
+        <translation>재전송 요청을 모으는 이미지 범위(%)입니다.</translation>
+    </message>
+    <message>
+        <source>ResendRequestResponseTimeout_Tooltip</source>
+        <translation>다시 보낸 패킷을 기다리는 시간(밀리초)입니다.</translation>
+    </message>
+    <message>
+        <source>ResendRequestThreshold_Tooltip</source>
+        <translation>빈틈을 보고하기 전에 받는 이미지의 비율(%)입니다.</translation>
+    </message>
+    <message>
+        <source>ResendTimeout_Tooltip</source>
+        <translation>손실된 패킷을 요청하기 전에 기다리는 시간(밀리초)입니다.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>카메라의 이미지를 받습니다.</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>네트워크 소켓 수신 버퍼의 크기(KB)입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Tooltip</source>
+        <translation>이미지 스트림의 카운터입니다.</translation>
+    </message>
+    <message>
+        <source>StatisticReset_Tooltip</source>
+        <translation>스트림 카운터를 0으로 되돌립니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Fill_Level_Tooltip</source>
+        <translation>대기 중인 버퍼 가운데 이미지가 들어 있는 비율(%)입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Underrun_Count_Tooltip</source>
+        <translation>대기 중인 버퍼가 없어 잃은 이미지 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Buffer_Count_Tooltip</source>
+        <translation>오류와 함께 돌아온 버퍼 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Packet_Count_Tooltip</source>
+        <translation>오류와 함께 받은 패킷 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Block_Id_Tooltip</source>
+        <translation>마지막으로 받은 이미지 블록의 번호입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Tooltip</source>
+        <translation>마지막으로 실패한 버퍼의 상태 코드입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Text_Tooltip</source>
+        <translation>마지막으로 실패한 버퍼에서 무엇이 잘못되었는지입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Missed_Frame_Count_Tooltip</source>
+        <translation>카메라가 보냈지만 도착하지 않은 이미지 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Packet_Count_Tooltip</source>
+        <translation>다시 요청한 패킷 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Request_Count_Tooltip</source>
+        <translation>카메라에 보낸 재전송 요청 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Resynchronization_Count_Tooltip</source>
+        <translation>스트림을 다시 동기화해야 했던 횟수입니다.</translation>
+    </message>
+    <message>
         <source>Statistic_Total_Buffer_Count_Tooltip</source>
         <translation>통계를 마지막으로 초기화한 뒤 받은 버퍼 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Packet_Count_Tooltip</source>
+        <translation>받은 패킷 수입니다.</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>이미지 스트림의 상태입니다.</translation>
+    </message>
+    <message>
+        <source>TransferLoopThreadPriority_Tooltip</source>
+        <translation>USB 요청을 대기열에 넣는 스레드의 우선순위입니다.</translation>
+    </message>
+    <message>
+        <source>TransmissionType_Tooltip</source>
+        <translation>이미지 스트림의 대상: 이 컴퓨터만 또는 멀티캐스트 그룹.</translation>
+    </message>
+    <message>
+        <source>Type_Tooltip</source>
+        <translation>이미지를 받는 드라이버입니다.</translation>
+    </message>
+    <message>
+        <source>Usb3Stream_Tooltip</source>
+        <translation>USB 전송 설정입니다.</translation>
     </message>
 </context>
 <context>
     <name>EventGrabber</name>
     <message>
+        <source>BufferSize_Tooltip</source>
+        <translation>이벤트 버퍼 하나의 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>이벤트를 받는 포트입니다. 0이면 빈 포트를 고릅니다.</translation>
+    </message>
+    <message>
+        <source>EventDeliveryMode_Tooltip</source>
+        <translation>받은 이벤트가 애플리케이션에 전달되는 방식입니다.</translation>
+    </message>
+    <message>
+        <source>EventStatistic_Tooltip</source>
+        <translation>이벤트 채널의 카운터입니다.</translation>
+    </message>
+    <message>
+        <source>EventStatisticReset_Tooltip</source>
+        <translation>이벤트 카운터를 0으로 되돌립니다.</translation>
+    </message>
+    <message>
+        <source>MaxEventSize_Tooltip</source>
+        <translation>카메라가 보내는 이벤트 메시지의 최대 크기(데이터 포함, 바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedEvents_Tooltip</source>
+        <translation>애플리케이션이 가져가지 않는 동안 보관하는 이벤트 수입니다.</translation>
+    </message>
+    <message>
         <source>NumBuffer_Tooltip</source>
         <translation>들어오는 이벤트용으로 두는 버퍼 수입니다.</translation>
     </message>
     <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>이벤트를 위해 대기시켜 두는 USB 요청 수입니다.</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>이벤트를 받는 스레드의 우선순위입니다.</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>이벤트 스레드에 ReceiveThreadPriority의 우선순위를 씁니다.</translation>
+    </message>
+    <message>
         <source>RetryCount_Tooltip</source>
         <translation>이벤트를 포기하기 전에 다시 요청하는 횟수입니다.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>카메라의 이벤트 메시지를 받습니다.</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>네트워크 소켓 수신 버퍼의 크기(KB)입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Event_Overrun_Count_Tooltip</source>
+        <translation>빈 버퍼가 없어 잃은 이벤트 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Event_Count_Tooltip</source>
+        <translation>오류와 함께 받은 이벤트 수입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Event_ID_Tooltip</source>
+        <translation>마지막으로 받은 이벤트의 식별자입니다.</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Event_Count_Tooltip</source>
+        <translation>받은 이벤트 수입니다.</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>이벤트 채널의 상태입니다.</translation>
     </message>
     <message>
         <source>Timeout_Tooltip</source>
@@ -640,16 +1040,112 @@
 <context>
     <name>ImageFormatConverter</name>
     <message>
+        <source>AdditionalLeftShift_Tooltip</source>
+        <translation>하위 비트를 버리기 전에 데이터를 왼쪽으로 미는 비트 수입니다.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentControl_Tooltip</source>
+        <translation>색상별 색조와 채도입니다.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentEnable_Tooltip</source>
+        <translation>색조와 채도 설정을 적용합니다.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentHue_Tooltip</source>
+        <translation>선택한 색의 색조 이동입니다.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSaturation_Tooltip</source>
+        <translation>선택한 색의 채도입니다.</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSelector_Tooltip</source>
+        <translation>조정할 색을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>ColorConversion_Tooltip</source>
+        <translation>컬러 이미지의 변환입니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>색 변환 행렬입니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationMatrixFactor_Tooltip</source>
+        <translation>색 변환을 적용하는 세기입니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>색 변환을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>선택한 행렬 계수의 값입니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>행렬의 계수를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>DemosaicingMethod_Tooltip</source>
+        <translation>베이어 패턴에서 풀 컬러를 구하는 방식입니다.</translation>
+    </message>
+    <message>
         <source>Gamma_Tooltip</source>
         <translation>변환할 때 적용하는 감마 보정입니다.</translation>
+    </message>
+    <message>
+        <source>InconvertibleEdgeHandling_Tooltip</source>
+        <translation>디모자이크할 수 없는 가장자리 픽셀의 처리 방식입니다.</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>조명 종류에 맞춘 색 보정입니다.</translation>
     </message>
     <message>
         <source>MaxNumThreads_Tooltip</source>
         <translation>변환기가 쓸 수 있는 최대 스레드 수입니다.</translation>
     </message>
     <message>
+        <source>MonoConversion_Tooltip</source>
+        <translation>흑백 데이터의 비트 심도 축소입니다.</translation>
+    </message>
+    <message>
+        <source>MonoConversionMethod_Tooltip</source>
+        <translation>8비트보다 넓은 픽셀 데이터를 8비트로 줄이는 방식입니다.</translation>
+    </message>
+    <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>고화질 디모자이크 때 적용하는 노이즈 감소입니다.</translation>
+    </message>
+    <message>
+        <source>OutputBitAlignment_Tooltip</source>
+        <translation>컨테이너보다 좁은 픽셀 데이터를 상위 비트와 하위 비트 중 어디에 맞출지입니다.</translation>
+    </message>
+    <message>
+        <source>OutputFormat_Tooltip</source>
+        <translation>변환된 이미지의 형식입니다.</translation>
+    </message>
+    <message>
+        <source>OutputOrientation_Tooltip</source>
+        <translation>변환된 이미지의 라인 순서: 위에서 아래 또는 아래에서 위.</translation>
+    </message>
+    <message>
+        <source>OutputPaddingX_Tooltip</source>
+        <translation>변환된 이미지의 각 라인 끝에 붙이는 바이트 수입니다.</translation>
+    </message>
+    <message>
         <source>OutputPixelFormat_Tooltip</source>
         <translation>변환된 이미지의 픽셀 형식입니다.</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>받은 이미지를 표시와 처리에 맞게 변환합니다.</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>고화질 디모자이크 때 적용하는 선명도 향상입니다.</translation>
     </message>
 </context>
 </TS>

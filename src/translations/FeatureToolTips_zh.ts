@@ -595,42 +595,442 @@
 <context>
     <name>TransportLayer</name>
     <message>
+        <source>CommandDuplicationEnable_Tooltip</source>
+        <translation>每条命令发送两次，用于易丢包的网络。</translation>
+    </message>
+    <message>
+        <source>Communication_Tooltip</source>
+        <translation>控制连接的超时与重试。</translation>
+    </message>
+    <message>
+        <source>DeviceAccessStatus_Tooltip</source>
+        <translation>本应用程序以何种方式打开了相机。</translation>
+    </message>
+    <message>
+        <source>DeviceBcdUSB_Tooltip</source>
+        <translation>相机的 USB 版本（BCD 码）。</translation>
+    </message>
+    <message>
+        <source>DeviceDisplayName_Tooltip</source>
+        <translation>相机在列表中显示的名称。</translation>
+    </message>
+    <message>
+        <source>DeviceDriverVersion_Tooltip</source>
+        <translation>正在使用的 USB 驱动程序的版本。</translation>
+    </message>
+    <message>
+        <source>DeviceEndianessMechanism_Tooltip</source>
+        <translation>相机寄存器字节序的处理方式。</translation>
+    </message>
+    <message>
+        <source>DeviceFamilyName_Tooltip</source>
+        <translation>相机的产品系列。</translation>
+    </message>
+    <message>
+        <source>DeviceFirmwareVersion_Tooltip</source>
+        <translation>相机固件的版本。</translation>
+    </message>
+    <message>
         <source>DeviceID_Tooltip</source>
         <translation>相机在传输层上的标识符。</translation>
+    </message>
+    <message>
+        <source>DeviceInformation_Tooltip</source>
+        <translation>用于识别相机的信息。</translation>
+    </message>
+    <message>
+        <source>DeviceManufacturerInfo_Tooltip</source>
+        <translation>相机制造商提供的附加信息。</translation>
+    </message>
+    <message>
+        <source>DeviceModelName_Tooltip</source>
+        <translation>相机的型号名称。</translation>
+    </message>
+    <message>
+        <source>DeviceSerialNumber_Tooltip</source>
+        <translation>相机的序列号。</translation>
+    </message>
+    <message>
+        <source>DeviceSpeed_Tooltip</source>
+        <translation>相机连接的 USB 速度。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>正在使用的传输层协议的主版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>正在使用的传输层协议的次版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>相机的接口技术，例如 GigE Vision 或 USB3 Vision。</translation>
+    </message>
+    <message>
+        <source>DeviceUserID_Tooltip</source>
+        <translation>用户为相机设置的名称。</translation>
+    </message>
+    <message>
+        <source>DeviceVendorName_Tooltip</source>
+        <translation>相机制造商的名称。</translation>
+    </message>
+    <message>
+        <source>DeviceVersion_Tooltip</source>
+        <translation>相机的版本。</translation>
+    </message>
+    <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>本应用程序对相机拥有的访问权限：独占、控制或监视。</translation>
+    </message>
+    <message>
+        <source>GevDeviceDefaultGateway_Tooltip</source>
+        <translation>相机的默认网关。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceGateway_Tooltip</source>
+        <translation>GevDeviceForceIP 分配给相机的网关。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIP_Tooltip</source>
+        <translation>为不在本机子网内的相机分配临时地址。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceIPAddress_Tooltip</source>
+        <translation>GevDeviceForceIP 分配给相机的地址。</translation>
+    </message>
+    <message>
+        <source>GevDeviceForceSubnetMask_Tooltip</source>
+        <translation>GevDeviceForceIP 分配给相机的子网掩码。</translation>
     </message>
     <message>
         <source>GevDeviceIPAddress_Tooltip</source>
         <translation>主机所见的相机 IP 地址。</translation>
     </message>
     <message>
+        <source>GevDeviceMACAddress_Tooltip</source>
+        <translation>相机的 MAC 地址。</translation>
+    </message>
+    <message>
+        <source>GevDevicePort_Tooltip</source>
+        <translation>相机控制连接的 UDP 端口。</translation>
+    </message>
+    <message>
+        <source>GevDeviceSubnetMask_Tooltip</source>
+        <translation>相机的子网掩码。</translation>
+    </message>
+    <message>
+        <source>GevInterfaceIPAddress_Tooltip</source>
+        <translation>本计算机上连接相机的网络适配器的地址。</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>相机的 GigE Vision 主版本号。</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>相机的 GigE Vision 次版本号。</translation>
+    </message>
+    <message>
+        <source>GigEVisionDevice_Tooltip</source>
+        <translation>相机的网络标识。</translation>
+    </message>
+    <message>
         <source>HeartbeatTimeout_Tooltip</source>
         <translation>超过此时间（毫秒）未收到心跳，相机即断开连接。</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountRead_Tooltip</source>
+        <translation>无应答的读取请求的重发次数。</translation>
+    </message>
+    <message>
+        <source>MaxRetryCountWrite_Tooltip</source>
+        <translation>无应答的写入请求的重发次数。</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>控制传输的最大大小（字节）。</translation>
+    </message>
+    <message>
+        <source>MaximumNumberOfRetries_Tooltip</source>
+        <translation>失败的 USB 传输的重试次数。</translation>
+    </message>
+    <message>
+        <source>MigrationModeEnable_Tooltip</source>
+        <translation>使相机按旧型号系列的方式工作，以兼容现有应用程序。</translation>
+    </message>
+    <message>
+        <source>ReadTimeout_Tooltip</source>
+        <translation>等待读取请求应答的时间（毫秒）。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>传输层所见的相机。</translation>
+    </message>
+    <message>
+        <source>USB3VisionDevice_Tooltip</source>
+        <translation>相机的 USB 标识。</translation>
+    </message>
+    <message>
+        <source>WriteTimeout_Tooltip</source>
+        <translation>等待写入请求应答的时间（毫秒）。</translation>
     </message>
 </context>
 <context>
     <name>StreamGrabber</name>
     <message>
+        <source>AccessMode_Tooltip</source>
+        <translation>图像流的打开方式。</translation>
+    </message>
+    <message>
+        <source>DestinationAddr_Tooltip</source>
+        <translation>图像发送到的组播地址。</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>接收图像的端口；0 表示自动选择空闲端口。</translation>
+    </message>
+    <message>
+        <source>EnableResend_Tooltip</source>
+        <translation>向相机重新请求丢失的数据包。</translation>
+    </message>
+    <message>
+        <source>FrameRetention_Tooltip</source>
+        <translation>放弃不完整图像前的等待时间（毫秒）。</translation>
+    </message>
+    <message>
+        <source>GigEStream_Tooltip</source>
+        <translation>网络图像流的设置。</translation>
+    </message>
+    <message>
+        <source>IIDCStream_Tooltip</source>
+        <translation>等时流的设置。</translation>
+    </message>
+    <message>
+        <source>MaxBufferSize_Tooltip</source>
+        <translation>流所填充的最大缓冲区大小（字节）。</translation>
+    </message>
+    <message>
         <source>MaxNumBuffer_Tooltip</source>
         <translation>采集器分配的图像缓冲区数量。</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedBuffer_Tooltip</source>
+        <translation>同时等待填充的缓冲区的最大数量。</translation>
+    </message>
+    <message>
+        <source>MaxTransferSize_Tooltip</source>
+        <translation>单次 USB 传输的大小（字节）。</translation>
+    </message>
+    <message>
+        <source>MaximumNumberResendRequests_Tooltip</source>
+        <translation>单幅图像的最大重发请求数。</translation>
+    </message>
+    <message>
+        <source>NumIsoPackets_Tooltip</source>
+        <translation>单个请求中汇集的等时数据包数量。</translation>
+    </message>
+    <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>在驱动程序中保持排队的 USB 请求数量。</translation>
+    </message>
+    <message>
+        <source>PacketResend_Tooltip</source>
+        <translation>丢失网络数据包的恢复。</translation>
     </message>
     <message>
         <source>PacketTimeout_Tooltip</source>
         <translation>在重新请求丢失的数据包之前等待的时间（毫秒）。</translation>
     </message>
     <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>接收图像的线程的优先级。</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>让接收线程使用 ReceiveThreadPriority 设置的优先级。</translation>
+    </message>
+    <message>
+        <source>ResendRequestBatching_Tooltip</source>
+        <translation>合并重发请求所覆盖的图像比例（%）。</translation>
+    </message>
+    <message>
+        <source>ResendRequestResponseTimeout_Tooltip</source>
+        <translation>等待重发数据包的时间（毫秒）。</translation>
+    </message>
+    <message>
+        <source>ResendRequestThreshold_Tooltip</source>
+        <translation>在报告缺口前须接收的图像比例（%）。</translation>
+    </message>
+    <message>
+        <source>ResendTimeout_Tooltip</source>
+        <translation>请求丢失数据包前的等待时间（毫秒）。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>接收相机的图像。</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>网络套接字接收缓冲区的大小（KB）。</translation>
+    </message>
+    <message>
+        <source>Statistic_Tooltip</source>
+        <translation>图像流的计数器。</translation>
+    </message>
+    <message>
+        <source>StatisticReset_Tooltip</source>
+        <translation>将图像流计数器清零。</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Fill_Level_Tooltip</source>
+        <translation>排队缓冲区中已含图像的比例（%）。</translation>
+    </message>
+    <message>
+        <source>Statistic_Buffer_Underrun_Count_Tooltip</source>
+        <translation>因无可用缓冲区而丢失的图像数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Buffer_Count_Tooltip</source>
+        <translation>出错返回的缓冲区数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Packet_Count_Tooltip</source>
+        <translation>接收时出错的数据包数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Block_Id_Tooltip</source>
+        <translation>最后接收的图像块编号。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Tooltip</source>
+        <translation>最后一个失败缓冲区的状态码。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Failed_Buffer_Status_Text_Tooltip</source>
+        <translation>最后一个失败缓冲区出了什么问题。</translation>
+    </message>
+    <message>
+        <source>Statistic_Missed_Frame_Count_Tooltip</source>
+        <translation>相机已发送但未到达的图像数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Packet_Count_Tooltip</source>
+        <translation>重新请求的数据包数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Resend_Request_Count_Tooltip</source>
+        <translation>发送给相机的重发请求数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Resynchronization_Count_Tooltip</source>
+        <translation>图像流需要重新同步的次数。</translation>
+    </message>
+    <message>
         <source>Statistic_Total_Buffer_Count_Tooltip</source>
         <translation>自上次重置统计以来接收的缓冲区数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Packet_Count_Tooltip</source>
+        <translation>接收的数据包数量。</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>图像流的状态。</translation>
+    </message>
+    <message>
+        <source>TransferLoopThreadPriority_Tooltip</source>
+        <translation>将 USB 请求排队的线程的优先级。</translation>
+    </message>
+    <message>
+        <source>TransmissionType_Tooltip</source>
+        <translation>图像流的发送方式：仅发给本机或发给组播组。</translation>
+    </message>
+    <message>
+        <source>Type_Tooltip</source>
+        <translation>接收图像的驱动程序。</translation>
+    </message>
+    <message>
+        <source>Usb3Stream_Tooltip</source>
+        <translation>USB 传输的设置。</translation>
     </message>
 </context>
 <context>
     <name>EventGrabber</name>
     <message>
+        <source>BufferSize_Tooltip</source>
+        <translation>单个事件缓冲区的大小（字节）。</translation>
+    </message>
+    <message>
+        <source>DestinationPort_Tooltip</source>
+        <translation>接收事件的端口；0 表示自动选择空闲端口。</translation>
+    </message>
+    <message>
+        <source>EventDeliveryMode_Tooltip</source>
+        <translation>接收到的事件传递给应用程序的方式。</translation>
+    </message>
+    <message>
+        <source>EventStatistic_Tooltip</source>
+        <translation>事件通道的计数器。</translation>
+    </message>
+    <message>
+        <source>EventStatisticReset_Tooltip</source>
+        <translation>将事件计数器清零。</translation>
+    </message>
+    <message>
+        <source>MaxEventSize_Tooltip</source>
+        <translation>相机发送的事件消息（含数据）的最大大小（字节）。</translation>
+    </message>
+    <message>
+        <source>MaxNumQueuedEvents_Tooltip</source>
+        <translation>应用程序未取走时保留的事件数量。</translation>
+    </message>
+    <message>
         <source>NumBuffer_Tooltip</source>
         <translation>为接收事件保留的缓冲区数量。</translation>
     </message>
     <message>
+        <source>NumMaxQueuedUrbs_Tooltip</source>
+        <translation>为事件保持排队的 USB 请求数量。</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriority_Tooltip</source>
+        <translation>接收事件的线程的优先级。</translation>
+    </message>
+    <message>
+        <source>ReceiveThreadPriorityOverride_Tooltip</source>
+        <translation>让事件线程使用 ReceiveThreadPriority 设置的优先级。</translation>
+    </message>
+    <message>
         <source>RetryCount_Tooltip</source>
         <translation>放弃某事件前重新请求的次数。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>接收相机的事件消息。</translation>
+    </message>
+    <message>
+        <source>SocketBufferSize_Tooltip</source>
+        <translation>网络套接字接收缓冲区的大小（KB）。</translation>
+    </message>
+    <message>
+        <source>Statistic_Event_Overrun_Count_Tooltip</source>
+        <translation>因无空闲缓冲区而丢失的事件数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Failed_Event_Count_Tooltip</source>
+        <translation>接收时出错的事件数量。</translation>
+    </message>
+    <message>
+        <source>Statistic_Last_Event_ID_Tooltip</source>
+        <translation>最后接收的事件的标识符。</translation>
+    </message>
+    <message>
+        <source>Statistic_Total_Event_Count_Tooltip</source>
+        <translation>接收的事件数量。</translation>
+    </message>
+    <message>
+        <source>Status_Tooltip</source>
+        <translation>事件通道的状态。</translation>
     </message>
     <message>
         <source>Timeout_Tooltip</source>
@@ -640,16 +1040,112 @@
 <context>
     <name>ImageFormatConverter</name>
     <message>
+        <source>AdditionalLeftShift_Tooltip</source>
+        <translation>舍弃低位前将数据左移的位数。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentControl_Tooltip</source>
+        <translation>各颜色的色调与饱和度。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentEnable_Tooltip</source>
+        <translation>应用色调与饱和度设置。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentHue_Tooltip</source>
+        <translation>所选颜色的色调偏移。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSaturation_Tooltip</source>
+        <translation>所选颜色的饱和度。</translation>
+    </message>
+    <message>
+        <source>ColorAdjustmentSelector_Tooltip</source>
+        <translation>选择要调整的颜色。</translation>
+    </message>
+    <message>
+        <source>ColorConversion_Tooltip</source>
+        <translation>彩色图像的转换。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>颜色变换矩阵。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationMatrixFactor_Tooltip</source>
+        <translation>颜色变换的应用强度。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>选择颜色变换。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>所选矩阵系数的值。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>选择矩阵中的一个系数。</translation>
+    </message>
+    <message>
+        <source>DemosaicingMethod_Tooltip</source>
+        <translation>由拜耳阵列计算全彩色的方法。</translation>
+    </message>
+    <message>
         <source>Gamma_Tooltip</source>
         <translation>转换时应用的伽马校正。</translation>
+    </message>
+    <message>
+        <source>InconvertibleEdgeHandling_Tooltip</source>
+        <translation>无法去马赛克的边缘像素的处理方式。</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>针对光源类型的颜色校正。</translation>
     </message>
     <message>
         <source>MaxNumThreads_Tooltip</source>
         <translation>转换器可使用的最大线程数。</translation>
     </message>
     <message>
+        <source>MonoConversion_Tooltip</source>
+        <translation>单色数据位深的降低。</translation>
+    </message>
+    <message>
+        <source>MonoConversionMethod_Tooltip</source>
+        <translation>将超过 8 位的像素数据降为 8 位的方法。</translation>
+    </message>
+    <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>高质量去马赛克时应用的降噪。</translation>
+    </message>
+    <message>
+        <source>OutputBitAlignment_Tooltip</source>
+        <translation>比容器窄的像素数据对齐到高位还是低位。</translation>
+    </message>
+    <message>
+        <source>OutputFormat_Tooltip</source>
+        <translation>转换后图像的格式。</translation>
+    </message>
+    <message>
+        <source>OutputOrientation_Tooltip</source>
+        <translation>转换后图像的行顺序：自上而下或自下而上。</translation>
+    </message>
+    <message>
+        <source>OutputPaddingX_Tooltip</source>
+        <translation>在转换后图像每行末尾追加的字节数。</translation>
+    </message>
+    <message>
         <source>OutputPixelFormat_Tooltip</source>
         <translation>转换后图像的像素格式。</translation>
+    </message>
+    <message>
+        <source>Root_Tooltip</source>
+        <translation>转换接收的图像以供显示和处理。</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>高质量去马赛克时应用的锐化。</translation>
     </message>
 </context>
 </TS>
