@@ -185,7 +185,17 @@ void TestTranslations::toolTipCataloguesCoverTheSameFeatures()
               { QStringLiteral("StreamGrabber"), QStringLiteral("@StreamGrabber0") },
               { QStringLiteral("EventGrabber"), QStringLiteral("@EventGrabber") },
               { QStringLiteral("ImageFormatConverter"), QStringLiteral("@ImageFormatConverter") } };
-    const auto device = Simulation::SimulatedDevice::createDefault(QStringLiteral("GEV"));
+    // Some features exist on one transport-layer type only: a key is good if any type has its feature.
+    QList<QSharedPointer<Simulation::SimulatedDevice>> devices;
+    for (const char* type : { "GEV", "U3V", "IIDC", "CXP", "CamEmu" })
+        devices.append(Simulation::SimulatedDevice::createDefault(QLatin1String(type)));
+    const auto described = [&devices](const QString& mapName, const QString& fullName) {
+        for (const auto& device : devices) {
+            if (device->nodeMap(mapName) && device->nodeMap(mapName)->hasParameter(fullName))
+                return true;
+        }
+        return false;
+    };
     QStringList english;
     QString error;
     for (const Message& message : readCatalogue(toolTipCatalogue(QStringLiteral("en")), &error)) {
@@ -194,7 +204,7 @@ void TestTranslations::toolTipCataloguesCoverTheSameFeatures()
         QVERIFY2(message.source.endsWith(QLatin1String("_Tooltip")), qPrintable(message.source));
         const QString mapName = contexts.value(message.context);
         const QString fullName = mapName + QLatin1Char('/') + message.source.chopped(8);
-        QVERIFY2(device->nodeMap(mapName)->hasParameter(fullName), qPrintable(fullName));
+        QVERIFY2(described(mapName, fullName), qPrintable(fullName));
     }
     QVERIFY(english.contains(QStringLiteral("CameraDevice|ExposureTime_Tooltip|")));
     for (const QString& language : kLanguages) {
