@@ -7,60 +7,49 @@
 #include "aravisnodemap.h"
 #endif
 
+template <typename Device> void ViewerCamera::adopt(const Device& device)
+{
+    if (!device)
+        return;
+    m_nodeMapNames = device->nodeMapNames();
+    for (const QString& name : m_nodeMapNames)
+        m_nodeMaps.insert(name, device->nodeMap(name));
+    m_baseInfo = device->baseInfo();
+    m_transportLayerType = device->transportLayerType();
+}
+
 ViewerCamera::ViewerCamera(QSharedPointer<Simulation::SimulatedDevice> device)
     : m_simulated(std::move(device))
 {
+    adopt(m_simulated);
 }
 
 #ifdef ZVC_WITH_ARAVIS
 ViewerCamera::ViewerCamera(QSharedPointer<Aravis::AravisDevice> device)
     : m_aravis(std::move(device))
 {
+    adopt(m_aravis);
 }
 #endif
 
 QStringList ViewerCamera::nodeMapNames() const
 {
-    if (m_simulated)
-        return m_simulated->nodeMapNames();
-#ifdef ZVC_WITH_ARAVIS
-    if (m_aravis)
-        return m_aravis->nodeMapNames();
-#endif
-    return QStringList();
+    return m_nodeMapNames;
 }
 
 QSharedPointer<ParameterCollection::IParameterCollection> ViewerCamera::nodeMap(const QString& name) const
 {
-    if (m_simulated)
-        return m_simulated->nodeMap(name);
-#ifdef ZVC_WITH_ARAVIS
-    if (m_aravis)
-        return m_aravis->nodeMap(name);
-#endif
-    return QSharedPointer<ParameterCollection::IParameterCollection>();
+    return m_nodeMaps.value(name);
 }
 
 QSharedPointer<Plugin::CameraPool::IBaseInfo> ViewerCamera::baseInfo() const
 {
-    if (m_simulated)
-        return m_simulated->baseInfo();
-#ifdef ZVC_WITH_ARAVIS
-    if (m_aravis)
-        return m_aravis->baseInfo();
-#endif
-    return QSharedPointer<Plugin::CameraPool::IBaseInfo>();
+    return m_baseInfo;
 }
 
 QString ViewerCamera::transportLayerType() const
 {
-    if (m_simulated)
-        return m_simulated->transportLayerType();
-#ifdef ZVC_WITH_ARAVIS
-    if (m_aravis)
-        return m_aravis->transportLayerType();
-#endif
-    return QString();
+    return m_transportLayerType;
 }
 
 Simulation::SimulatedDevice* ViewerCamera::simulation() const

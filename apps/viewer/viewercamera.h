@@ -3,6 +3,7 @@
 #include "parameters/ibaseinfo.h"
 #include "parameters/iparametercollection.h"
 
+#include <QHash>
 #include <QSharedPointer>
 #include <QStringList>
 
@@ -36,8 +37,15 @@ public:
     Simulation::SimulatedDevice* simulation() const;
 
 private:
+    //! Takes what the viewer needs from either kind of device once, when it is opened.
+    template <typename Device> void adopt(const Device& device);
+
     QSharedPointer<Simulation::SimulatedDevice> m_simulated;
 #ifdef ZVC_WITH_ARAVIS
     QSharedPointer<Aravis::AravisDevice> m_aravis;
 #endif
+    QStringList m_nodeMapNames;
+    QHash<QString, QSharedPointer<ParameterCollection::IParameterCollection>> m_nodeMaps;
+    QSharedPointer<Plugin::CameraPool::IBaseInfo> m_baseInfo;
+    QString m_transportLayerType;
 };
