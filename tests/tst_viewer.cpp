@@ -13,11 +13,13 @@
 #include "simulateddevice.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -68,6 +70,8 @@ private slots:
     void searchShowsMatchCountsInTheStatusBar();
     void valueEditedInTheTreeReachesTheCamera();
     void ipDialogIsFilledFromTheCameraAndCancelled();
+    void pollingMenuEntryAndCheckBoxStayInStep();
+    void failedWriteIsShownWithItsDetails();
     void languageMenuRetranslatesTheTree();
     void settingsKeepTheLastCameraAndLevel();
     void screenshotModeWritesThePictureOfTheWindow();
@@ -220,6 +224,56 @@ void TestViewer::ipDialogIsFilledFromTheCameraAndCancelled()
     auto map = m_window->camera()->nodeMap(QStringLiteral("@CameraDevice"));
     QCOMPARE(map->getParameter(QStringLiteral("@CameraDevice/GevCurrentIPAddress"))->getParameterData()->valueText,
         QStringLiteral("192.168.10.42"));
+}
+
+void TestViewer::pollingMenuEntryAndCheckBoxStayInStep()
+{
+    QVERIFY(m_window->openCamera(0));
+    auto* action = m_window->findChild<QAction*>(QStringLiteral("actionPolling"));
+    auto* box = m_window->featureTree()->findChild<QCheckBox*>(QStringLiteral("checkBoxPolling"));
+    QVERIFY(action && box);
+    QVERIFY(!action->isChecked() && !box->isChecked());
+    // The menu's shortcut turns polling on in the widget ...
+    QTest::keySequence(m_window.get(), action->shortcut());
+    QVERIFY(m_window->featureTree()->getPolling());
+    QVERIFY(box->isChecked());
+    // ... and the widget's own check box turns the menu entry off.
+    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(4, box->height() / 2));
+    QVERIFY(!m_window->featureTree()->getPolling());
+    QVERIFY(!action->isChecked());
+}
+
+void TestViewer::failedWriteIsShownWithItsDetails()
+{
+    QVERIFY(m_window->openCamera(0));
+    FeatureTreeWidget* tree = m_window->featureTree();
+    const QString fullName = QStringLiteral("@CameraDevice/DeviceUserID");
+    QVERIFY(m_window->selectFeature(fullName));
+    m_window->findChild<QAction*>(QStringLiteral("actionFault"))->trigger();
+
+    const QModelIndex cell = tree->getFeatureExtension()->findItemByFullName(fullName, nullptr, 1);
+    tree->treeView()->setFocus();
+    tree->treeView()->setCurrentIndex(cell);
+    QTest::keyClick(tree->treeView(), Qt::Key_F2);
+    auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QVERIFY(line);
+    line->selectAll();
+    QTest::keyClicks(line, QStringLiteral("refused"));
+    QTest::keyClick(line, Qt::Key_Return);
+
+    QMessageBox* box = nullptr;
+    QTRY_VERIFY((box = m_window->findChild<QMessageBox*>(QStringLiteral("errorBox"))) != nullptr);
+    QVERIFY(!box->text().isEmpty());
+    QVERIFY2(!box->detailedText().isEmpty(), qPrintable(box->text()));
+    QCOMPARE(box->icon(), QMessageBox::Critical);
+    box->close();
+    auto map = m_window->camera()->nodeMap(QStringLiteral("@CameraDevice"));
+    QVERIFY(map->getParameter(fullName)->getParameterData()->valueText != QStringLiteral("refused"));
+    // The failed write is logged on purpose: the model's two-line pattern, nothing else.
+    for (const QString& warning : qAsConst(g_warnings))
+        QVERIFY2(warning.contains(QLatin1String("xception")) || warning.contains(QLatin1String("Failed to set")),
+            qPrintable(warning));
+    g_warnings.clear();
 }
 
 void TestViewer::languageMenuRetranslatesTheTree()

@@ -524,11 +524,12 @@ void ViewerMainWindow::on_actionFault_triggered()
         statusBar()->showMessage(tr("Select a feature first"), 5000);
         return;
     }
+    // A failure of the plain std::exception kind: the model reports those through the error queue,
+    // so the user sees the dialog, where a refused GenICam write is only declined.
     const QString fullName = node->getFullName();
-    m_camera->simulation()->injectFault(
-        fullName, Simulation::Operation::SetValueFromString, Simulation::FaultKind::GenICam);
-    m_camera->simulation()->injectFault(fullName, Simulation::Operation::SetValue, Simulation::FaultKind::GenICam);
-    m_camera->simulation()->injectFault(fullName, Simulation::Operation::Execute, Simulation::FaultKind::GenICam);
+    for (Simulation::Operation operation :
+        { Simulation::Operation::SetValueFromString, Simulation::Operation::SetValue, Simulation::Operation::Execute })
+        m_camera->simulation()->injectFault(fullName, operation, Simulation::FaultKind::StdException);
     statusBar()->showMessage(tr("Writing %1 now fails").arg(fullName), 5000);
 }
 
