@@ -4,12 +4,28 @@
 <context>
     <name>CameraDevice</name>
     <message>
+        <source>ADCBitDepth_Tooltip</source>
+        <translation>Resolution of the analogue-to-digital converter, in bits.</translation>
+    </message>
+    <message>
         <source>AcquisitionAbort_Tooltip</source>
         <translation>Stops taking images at once; the image being taken is lost.</translation>
     </message>
     <message>
+        <source>AcquisitionBurstFrameCount_Tooltip</source>
+        <translation>Number of images taken for each burst trigger.</translation>
+    </message>
+    <message>
+        <source>AcquisitionControl_Tooltip</source>
+        <translation>Image taking, triggers and exposure.</translation>
+    </message>
+    <message>
         <source>AcquisitionFrameCount_Tooltip</source>
         <translation>Number of images taken in multi-frame mode.</translation>
+    </message>
+    <message>
+        <source>AcquisitionFrameCounter_Tooltip</source>
+        <translation>Number of images taken since the camera was switched on.</translation>
     </message>
     <message>
         <source>AcquisitionFrameRate_Tooltip</source>
@@ -28,12 +44,72 @@
         <translation>Starts taking images.</translation>
     </message>
     <message>
+        <source>AcquisitionStatus_Tooltip</source>
+        <translation>True while the camera is taking images.</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>Stops taking images after the current image.</translation>
     </message>
     <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>Key an action command must carry for the camera to act on it.</translation>
+    </message>
+    <message>
+        <source>AnalogControl_Tooltip</source>
+        <translation>Gain, black level, gamma and colour.</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeLowerLimit_Tooltip</source>
+        <translation>Shortest exposure time the automatic exposure may choose.</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeUpperLimit_Tooltip</source>
+        <translation>Longest exposure time the automatic exposure may choose.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionControl_Tooltip</source>
+        <translation>Targets, limits and regions of the automatic functions.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionProfile_Tooltip</source>
+        <translation>Whether the automatic control keeps the gain or the exposure time low.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIHeight_Tooltip</source>
+        <translation>Height of the selected auto function region, in pixels.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetX_Tooltip</source>
+        <translation>Horizontal position of the selected auto function region.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetY_Tooltip</source>
+        <translation>Vertical position of the selected auto function region.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROISelector_Tooltip</source>
+        <translation>Chooses the image region the automatic functions look at.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseBrightness_Tooltip</source>
+        <translation>Automatic exposure and gain look at the selected region.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseWhiteBalance_Tooltip</source>
+        <translation>Automatic white balance looks at the selected region.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIWidth_Tooltip</source>
+        <translation>Width of the selected auto function region, in pixels.</translation>
+    </message>
+    <message>
+        <source>AutoGainLowerLimit_Tooltip</source>
+        <translation>Lowest gain the automatic gain may choose.</translation>
+    </message>
+    <message>
+        <source>AutoGainUpperLimit_Tooltip</source>
+        <translation>Highest gain the automatic gain may choose.</translation>
     </message>
     <message>
         <source>AutoTargetBrightness_Tooltip</source>
@@ -56,12 +132,40 @@
         <translation>Number of neighbouring columns combined into one pixel.</translation>
     </message>
     <message>
+        <source>BinningHorizontalMode_Tooltip</source>
+        <translation>How binned columns are combined: summed or averaged.</translation>
+    </message>
+    <message>
+        <source>BinningSelector_Tooltip</source>
+        <translation>Chooses where the binning is done: in the sensor or in the camera logic.</translation>
+    </message>
+    <message>
         <source>BinningVertical_Tooltip</source>
         <translation>Number of neighbouring rows combined into one pixel.</translation>
     </message>
     <message>
+        <source>BinningVerticalMode_Tooltip</source>
+        <translation>How binned rows are combined: summed or averaged.</translation>
+    </message>
+    <message>
         <source>BlackLevel_Tooltip</source>
         <translation>Offset added to every pixel value; raises or lowers the darkest tones.</translation>
+    </message>
+    <message>
+        <source>BlackLevelAuto_Tooltip</source>
+        <translation>Lets the camera set the black level by itself.</translation>
+    </message>
+    <message>
+        <source>BlackLevelSelector_Tooltip</source>
+        <translation>Chooses which black level BlackLevel sets.</translation>
+    </message>
+    <message>
+        <source>CenterX_Tooltip</source>
+        <translation>Keeps the image area centred horizontally; OffsetX then follows by itself.</translation>
+    </message>
+    <message>
+        <source>CenterY_Tooltip</source>
+        <translation>Keeps the image area centred vertically; OffsetY then follows by itself.</translation>
     </message>
     <message>
         <source>ChunkEnable_Tooltip</source>
@@ -80,6 +184,30 @@
         <translation>Time stamp of the last image, from its chunk.</translation>
     </message>
     <message>
+        <source>ColorControls_Tooltip</source>
+        <translation>White balance and colour processing.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>Colour transformation matrix.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationEnable_Tooltip</source>
+        <translation>Applies the colour transformation matrix.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>Chooses the colour transformation the features below set.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>Value of the selected matrix coefficient.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>Chooses a coefficient of the matrix.</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>Signal whose events the selected counter counts.</translation>
     </message>
@@ -96,24 +224,156 @@
         <translation>Present count of the selected counter.</translation>
     </message>
     <message>
+        <source>DecimationHorizontal_Tooltip</source>
+        <translation>Reads out only every n-th column.</translation>
+    </message>
+    <message>
+        <source>DecimationVertical_Tooltip</source>
+        <translation>Reads out only every n-th row.</translation>
+    </message>
+    <message>
+        <source>DefectPixelCorrectionMode_Tooltip</source>
+        <translation>Replaces the values of known defective pixels.</translation>
+    </message>
+    <message>
+        <source>DemosaicingMode_Tooltip</source>
+        <translation>How full colour is worked out from the Bayer pattern in the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceCharacterSet_Tooltip</source>
+        <translation>Character set of the texts the camera holds.</translation>
+    </message>
+    <message>
+        <source>DeviceClockFrequency_Tooltip</source>
+        <translation>Frequency of the selected clock.</translation>
+    </message>
+    <message>
+        <source>DeviceClockSelector_Tooltip</source>
+        <translation>Chooses the clock whose frequency is shown.</translation>
+    </message>
+    <message>
+        <source>DeviceControl_Tooltip</source>
+        <translation>Identity of the camera and its general settings.</translation>
+    </message>
+    <message>
+        <source>DeviceEventChannelCount_Tooltip</source>
+        <translation>Number of event channels of the camera.</translation>
+    </message>
+    <message>
         <source>DeviceFamilyName_Tooltip</source>
         <translation>Product family the camera belongs to.</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceEnd_Tooltip</source>
+        <translation>Ends keeping the feature values in the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceStart_Tooltip</source>
+        <translation>Starts keeping the present feature values in the camera.</translation>
     </message>
     <message>
         <source>DeviceFirmwareVersion_Tooltip</source>
         <translation>Version of the firmware in the camera.</translation>
     </message>
     <message>
+        <source>DeviceGenCPVersionMajor_Tooltip</source>
+        <translation>Major version of the control protocol of the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceGenCPVersionMinor_Tooltip</source>
+        <translation>Minor version of the control protocol of the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceID_Tooltip</source>
+        <translation>Old identifier of the camera; use DeviceSerialNumber instead.</translation>
+    </message>
+    <message>
+        <source>DeviceIndicatorMode_Tooltip</source>
+        <translation>What the status light of the camera shows.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCommandTimeout_Tooltip</source>
+        <translation>Longest time the camera takes to answer a command.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
+        <translation>Time without a heartbeat after which the camera drops the connection.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSelector_Tooltip</source>
+        <translation>Chooses the link of the camera to set up.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSpeed_Tooltip</source>
+        <translation>Speed agreed on the link, in bytes per second.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimit_Tooltip</source>
+        <translation>Highest data rate the camera sends on the link, in bytes per second.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimitMode_Tooltip</source>
+        <translation>Turns the limit on the data rate on or off; when on, the frame rate may drop.</translation>
+    </message>
+    <message>
+        <source>DeviceManifestEntrySelector_Tooltip</source>
+        <translation>Chooses the entry of the description file list to read.</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMajorVersion_Tooltip</source>
+        <translation>Major version of the description file of the selected entry.</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMinorVersion_Tooltip</source>
+        <translation>Minor version of the description file of the selected entry.</translation>
+    </message>
+    <message>
         <source>DeviceManufacturerInfo_Tooltip</source>
         <translation>Further information from the camera maker.</translation>
+    </message>
+    <message>
+        <source>DeviceMaxThroughput_Tooltip</source>
+        <translation>Highest data rate the camera can keep up, in bytes per second.</translation>
     </message>
     <message>
         <source>DeviceModelName_Tooltip</source>
         <translation>Model name of the camera.</translation>
     </message>
     <message>
+        <source>DeviceRegistersCheck_Tooltip</source>
+        <translation>Checks that the register settings fit together.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersEndianness_Tooltip</source>
+        <translation>Byte order of the camera registers.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingEnd_Tooltip</source>
+        <translation>Ends a series of register writes; the camera then checks them.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingStart_Tooltip</source>
+        <translation>Prepares the camera for a series of register writes.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersValid_Tooltip</source>
+        <translation>1 when the register settings fit together.</translation>
+    </message>
+    <message>
         <source>DeviceReset_Tooltip</source>
         <translation>Restarts the camera. The connection is lost until it is back.</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMajor_Tooltip</source>
+        <translation>Major version of the feature naming standard the camera follows.</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMinor_Tooltip</source>
+        <translation>Minor version of the feature naming standard the camera follows.</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionSubMinor_Tooltip</source>
+        <translation>Sub-minor version of the feature naming standard the camera follows.</translation>
     </message>
     <message>
         <source>DeviceScanType_Tooltip</source>
@@ -124,8 +384,52 @@
         <translation>Serial number of the camera.</translation>
     </message>
     <message>
+        <source>DeviceStreamChannelCount_Tooltip</source>
+        <translation>Number of image stream channels of the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelEndianness_Tooltip</source>
+        <translation>Byte order of pixel data wider than one byte in the stream.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelPacketSize_Tooltip</source>
+        <translation>Size of the packets of the selected stream channel, in bytes.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelSelector_Tooltip</source>
+        <translation>Chooses the stream channel to set up.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelType_Tooltip</source>
+        <translation>Whether the selected stream channel sends or receives.</translation>
+    </message>
+    <message>
+        <source>DeviceTLType_Tooltip</source>
+        <translation>Kind of interface the camera is connected by.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>Major version of the transport protocol of the camera.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>Minor version of the transport protocol of the camera.</translation>
+    </message>
+    <message>
         <source>DeviceTemperature_Tooltip</source>
         <translation>Temperature at the selected place in the camera, in degrees Celsius.</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureSelector_Tooltip</source>
+        <translation>Chooses the place in the camera whose temperature is shown.</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureStatus_Tooltip</source>
+        <translation>Whether the camera temperature is normal, high or critical.</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>Role of the camera on its link, such as transmitter.</translation>
     </message>
     <message>
         <source>DeviceUserID_Tooltip</source>
@@ -138,6 +442,14 @@
     <message>
         <source>DeviceVersion_Tooltip</source>
         <translation>Hardware version of the camera.</translation>
+    </message>
+    <message>
+        <source>DigitalIO_Tooltip</source>
+        <translation>Lines of the I/O connector and user outputs.</translation>
+    </message>
+    <message>
+        <source>DigitalShift_Tooltip</source>
+        <translation>Shifts the pixel values left by this many bits, making the image brighter.</translation>
     </message>
     <message>
         <source>EncoderDivider_Tooltip</source>
@@ -416,6 +728,22 @@
         <translation>How long the sensor gathers light for each image, in microseconds.</translation>
     </message>
     <message>
+        <source>ExposureTimeBaseAbs_Tooltip</source>
+        <translation>Time unit of ExposureTimeRaw, in the older way of setting the exposure.</translation>
+    </message>
+    <message>
+        <source>ExposureTimeBaseAbsEnable_Tooltip</source>
+        <translation>Older way of setting the exposure: ExposureTimeRaw times ExposureTimeBaseAbs.</translation>
+    </message>
+    <message>
+        <source>ExposureTimeMode_Tooltip</source>
+        <translation>Range of exposure times on offer: standard or ultra short.</translation>
+    </message>
+    <message>
+        <source>ExposureTimeRaw_Tooltip</source>
+        <translation>Exposure time in units of ExposureTimeBaseAbs, the older way.</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>Amplification of the sensor signal. More gain gives a brighter but noisier image.</translation>
     </message>
@@ -430,6 +758,14 @@
     <message>
         <source>Gamma_Tooltip</source>
         <translation>Gamma correction of the pixel values.</translation>
+    </message>
+    <message>
+        <source>GammaEnable_Tooltip</source>
+        <translation>Applies the gamma correction.</translation>
+    </message>
+    <message>
+        <source>GammaSelector_Tooltip</source>
+        <translation>Chooses a gamma value of your own or the sRGB curve.</translation>
     </message>
     <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
@@ -448,6 +784,22 @@
         <translation>Height of the image the camera sends, in pixels.</translation>
     </message>
     <message>
+        <source>Hue_Tooltip</source>
+        <translation>Turns the colour hue.</translation>
+    </message>
+    <message>
+        <source>ImageFormatControl_Tooltip</source>
+        <translation>Size, position and format of the image.</translation>
+    </message>
+    <message>
+        <source>ImageQualityControl_Tooltip</source>
+        <translation>Corrections done in the camera.</translation>
+    </message>
+    <message>
+        <source>LUTControls_Tooltip</source>
+        <translation>Lookup table that maps the pixel values.</translation>
+    </message>
+    <message>
         <source>LUTEnable_Tooltip</source>
         <translation>Applies the selected lookup table to the pixel values.</translation>
     </message>
@@ -464,8 +816,28 @@
         <translation>Value of the lookup table entry chosen by LUTIndex.</translation>
     </message>
     <message>
+        <source>LUTValueAll_Tooltip</source>
+        <translation>All entries of the selected lookup table at once, as hexadecimal text.</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>Colour correction for the kind of lighting.</translation>
+    </message>
+    <message>
+        <source>LineDebouncerTime_Tooltip</source>
+        <translation>Shortest pulse on the selected input line that is taken as a signal.</translation>
+    </message>
+    <message>
+        <source>LineFormat_Tooltip</source>
+        <translation>Electrical kind of the selected line.</translation>
+    </message>
+    <message>
         <source>LineInverter_Tooltip</source>
         <translation>Inverts the signal of the selected line.</translation>
+    </message>
+    <message>
+        <source>LineMinimumOutputPulseWidth_Tooltip</source>
+        <translation>Shortest pulse given out on the selected output line.</translation>
     </message>
     <message>
         <source>LineMode_Tooltip</source>
@@ -488,6 +860,10 @@
         <translation>Levels of all lines at once, one bit per line.</translation>
     </message>
     <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>Noise reduction applied in high-quality demosaicing.</translation>
+    </message>
+    <message>
         <source>OffsetX_Tooltip</source>
         <translation>Horizontal position of the image area on the sensor, in pixels from the left.</translation>
     </message>
@@ -496,8 +872,24 @@
         <translation>Vertical position of the image area on the sensor, in pixels from the top.</translation>
     </message>
     <message>
+        <source>PixelColorFilter_Tooltip</source>
+        <translation>Colour filter pattern on the sensor.</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMin_Tooltip</source>
+        <translation>Smallest value a pixel can take in the present pixel format.</translation>
+    </message>
+    <message>
         <source>PixelFormat_Tooltip</source>
         <translation>Format of the pixels in the images the camera sends.</translation>
+    </message>
+    <message>
+        <source>PixelFormatLegacy_Tooltip</source>
+        <translation>Offers the older packed pixel formats in PixelFormat.</translation>
+    </message>
+    <message>
+        <source>PixelSize_Tooltip</source>
+        <translation>Number of bits in one pixel of the image.</translation>
     </message>
     <message>
         <source>PtpEnable_Tooltip</source>
@@ -516,12 +908,72 @@
         <translation>Mirrors the image from top to bottom.</translation>
     </message>
     <message>
+        <source>Root_Tooltip</source>
+        <translation>All features of the camera.</translation>
+    </message>
+    <message>
+        <source>Saturation_Tooltip</source>
+        <translation>Strength of the colours.</translation>
+    </message>
+    <message>
+        <source>SensorDigitizationTaps_Tooltip</source>
+        <translation>Number of digitised outputs of the sensor.</translation>
+    </message>
+    <message>
+        <source>SensorHeight_Tooltip</source>
+        <translation>Height of the usable sensor area, in pixels.</translation>
+    </message>
+    <message>
+        <source>SensorName_Tooltip</source>
+        <translation>Name of the image sensor.</translation>
+    </message>
+    <message>
+        <source>SensorPixelHeight_Tooltip</source>
+        <translation>Physical height of one pixel, in micrometres.</translation>
+    </message>
+    <message>
+        <source>SensorPixelWidth_Tooltip</source>
+        <translation>Physical width of one pixel, in micrometres.</translation>
+    </message>
+    <message>
+        <source>SensorReadoutMode_Tooltip</source>
+        <translation>Fast readout shortens the readout time but adds noise.</translation>
+    </message>
+    <message>
+        <source>SensorShutterMode_Tooltip</source>
+        <translation>Shutter type of the sensor: global or rolling.</translation>
+    </message>
+    <message>
+        <source>SensorTaps_Tooltip</source>
+        <translation>Number of taps the sensor is read out through.</translation>
+    </message>
+    <message>
+        <source>SensorWidth_Tooltip</source>
+        <translation>Width of the usable sensor area, in pixels.</translation>
+    </message>
+    <message>
+        <source>ShadingCorrectionMode_Tooltip</source>
+        <translation>Evens out uneven lighting and sensor shading.</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>Sharpening applied in high-quality demosaicing.</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>Sends a pulse on the selected software signal.</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>Chooses the software signal to pulse.</translation>
+    </message>
+    <message>
+        <source>TestPattern_Tooltip</source>
+        <translation>Replaces the sensor image by a test pattern.</translation>
+    </message>
+    <message>
+        <source>TestPatternGeneratorSelector_Tooltip</source>
+        <translation>Chooses which test pattern generator is set.</translation>
     </message>
     <message>
         <source>TimerDelay_Tooltip</source>
@@ -540,6 +992,22 @@
         <translation>Signal that starts the selected timer.</translation>
     </message>
     <message>
+        <source>Timestamp_Tooltip</source>
+        <translation>Present value of the camera time stamp counter, in nanoseconds since it was switched on.</translation>
+    </message>
+    <message>
+        <source>TimestampLatch_Tooltip</source>
+        <translation>Copies the present time stamp into TimestampLatchValue.</translation>
+    </message>
+    <message>
+        <source>TimestampLatchValue_Tooltip</source>
+        <translation>Time stamp copied by the last TimestampLatch.</translation>
+    </message>
+    <message>
+        <source>TimestampReset_Tooltip</source>
+        <translation>Sets the time stamp counter back to zero.</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>Which edge or level of the signal sets off the trigger.</translation>
     </message>
@@ -548,8 +1016,16 @@
         <translation>Time between the trigger and the start of the exposure, in microseconds.</translation>
     </message>
     <message>
+        <source>TriggerDivider_Tooltip</source>
+        <translation>Uses only every n-th trigger signal.</translation>
+    </message>
+    <message>
         <source>TriggerMode_Tooltip</source>
         <translation>Whether images are taken only when a trigger arrives.</translation>
+    </message>
+    <message>
+        <source>TriggerOverlap_Tooltip</source>
+        <translation>Whether a trigger is taken while the previous image is still being read out.</translation>
     </message>
     <message>
         <source>TriggerSelector_Tooltip</source>
@@ -570,6 +1046,14 @@
     <message>
         <source>UserOutputValue_Tooltip</source>
         <translation>Level of the selected user output.</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAll_Tooltip</source>
+        <translation>Levels of all user outputs, one bit each.</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAllMask_Tooltip</source>
+        <translation>Which bits of UserOutputValueAll are written.</translation>
     </message>
     <message>
         <source>UserSetDefault_Tooltip</source>

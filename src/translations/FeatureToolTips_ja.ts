@@ -4,12 +4,28 @@
 <context>
     <name>CameraDevice</name>
     <message>
+        <source>ADCBitDepth_Tooltip</source>
+        <translation>A/D 変換の分解能 (ビット)。</translation>
+    </message>
+    <message>
         <source>AcquisitionAbort_Tooltip</source>
         <translation>撮像をすぐに中止します。撮像中の画像は失われます。</translation>
     </message>
     <message>
+        <source>AcquisitionBurstFrameCount_Tooltip</source>
+        <translation>バーストトリガー 1 回ごとに撮る画像の枚数。</translation>
+    </message>
+    <message>
+        <source>AcquisitionControl_Tooltip</source>
+        <translation>撮像、トリガー、露光。</translation>
+    </message>
+    <message>
         <source>AcquisitionFrameCount_Tooltip</source>
         <translation>マルチフレームモードで撮像する枚数。</translation>
+    </message>
+    <message>
+        <source>AcquisitionFrameCounter_Tooltip</source>
+        <translation>電源投入から撮像した画像の枚数。</translation>
     </message>
     <message>
         <source>AcquisitionFrameRate_Tooltip</source>
@@ -28,12 +44,72 @@
         <translation>撮像を開始します。</translation>
     </message>
     <message>
+        <source>AcquisitionStatus_Tooltip</source>
+        <translation>カメラが撮像中のとき真。</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>現在の画像の後で撮像を停止します。</translation>
     </message>
     <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>カメラがアクションコマンドを受け付けるためのキー。</translation>
+    </message>
+    <message>
+        <source>AnalogControl_Tooltip</source>
+        <translation>ゲイン、黒レベル、ガンマ、色。</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeLowerLimit_Tooltip</source>
+        <translation>自動露光が選べる最短の露光時間。</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeUpperLimit_Tooltip</source>
+        <translation>自動露光が選べる最長の露光時間。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionControl_Tooltip</source>
+        <translation>自動機能の目標値、制限、領域。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionProfile_Tooltip</source>
+        <translation>自動制御がゲインと露光時間のどちらを低く抑えるか。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIHeight_Tooltip</source>
+        <translation>選んだ自動機能領域の高さ (画素)。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetX_Tooltip</source>
+        <translation>選んだ自動機能領域の水平位置。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetY_Tooltip</source>
+        <translation>選んだ自動機能領域の垂直位置。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROISelector_Tooltip</source>
+        <translation>自動機能が評価する画像領域を選びます。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseBrightness_Tooltip</source>
+        <translation>自動露光と自動ゲインが選んだ領域を評価します。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseWhiteBalance_Tooltip</source>
+        <translation>自動ホワイトバランスが選んだ領域を評価します。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIWidth_Tooltip</source>
+        <translation>選んだ自動機能領域の幅 (画素)。</translation>
+    </message>
+    <message>
+        <source>AutoGainLowerLimit_Tooltip</source>
+        <translation>自動ゲインが選べる最小のゲイン。</translation>
+    </message>
+    <message>
+        <source>AutoGainUpperLimit_Tooltip</source>
+        <translation>自動ゲインが選べる最大のゲイン。</translation>
     </message>
     <message>
         <source>AutoTargetBrightness_Tooltip</source>
@@ -56,12 +132,40 @@
         <translation>1 画素にまとめる隣接列の数。</translation>
     </message>
     <message>
+        <source>BinningHorizontalMode_Tooltip</source>
+        <translation>ビニングした列の合成方法: 加算または平均。</translation>
+    </message>
+    <message>
+        <source>BinningSelector_Tooltip</source>
+        <translation>ビニングを行う場所 (センサーまたはカメラ内部処理) を選びます。</translation>
+    </message>
+    <message>
         <source>BinningVertical_Tooltip</source>
         <translation>1 画素にまとめる隣接行の数。</translation>
     </message>
     <message>
+        <source>BinningVerticalMode_Tooltip</source>
+        <translation>ビニングした行の合成方法: 加算または平均。</translation>
+    </message>
+    <message>
         <source>BlackLevel_Tooltip</source>
         <translation>すべての画素値に加えるオフセット。最も暗い部分の明るさを上下します。</translation>
+    </message>
+    <message>
+        <source>BlackLevelAuto_Tooltip</source>
+        <translation>カメラが黒レベルを自動で調整します。</translation>
+    </message>
+    <message>
+        <source>BlackLevelSelector_Tooltip</source>
+        <translation>BlackLevel で設定する黒レベルを選びます。</translation>
+    </message>
+    <message>
+        <source>CenterX_Tooltip</source>
+        <translation>画像領域を水平方向の中央に保ちます。OffsetX は自動で決まります。</translation>
+    </message>
+    <message>
+        <source>CenterY_Tooltip</source>
+        <translation>画像領域を垂直方向の中央に保ちます。OffsetY は自動で決まります。</translation>
     </message>
     <message>
         <source>ChunkEnable_Tooltip</source>
@@ -80,6 +184,30 @@
         <translation>最後の画像のタイムスタンプ (チャンクから)。</translation>
     </message>
     <message>
+        <source>ColorControls_Tooltip</source>
+        <translation>ホワイトバランスと色処理。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>色変換マトリクス。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationEnable_Tooltip</source>
+        <translation>色変換マトリクスを適用します。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>以下の機能で設定する色変換を選びます。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>選んだマトリクス係数の値。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>マトリクスの係数を選びます。</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>選んだカウンターが数える信号。</translation>
     </message>
@@ -96,24 +224,156 @@
         <translation>選んだカウンターの現在値。</translation>
     </message>
     <message>
+        <source>DecimationHorizontal_Tooltip</source>
+        <translation>n 列ごとに 1 列だけ読み出します。</translation>
+    </message>
+    <message>
+        <source>DecimationVertical_Tooltip</source>
+        <translation>n 行ごとに 1 行だけ読み出します。</translation>
+    </message>
+    <message>
+        <source>DefectPixelCorrectionMode_Tooltip</source>
+        <translation>既知の欠陥画素の値を置き換えます。</translation>
+    </message>
+    <message>
+        <source>DemosaicingMode_Tooltip</source>
+        <translation>カメラ内でベイヤー配列からフルカラーを求める方法。</translation>
+    </message>
+    <message>
+        <source>DeviceCharacterSet_Tooltip</source>
+        <translation>カメラ内の文字列の文字セット。</translation>
+    </message>
+    <message>
+        <source>DeviceClockFrequency_Tooltip</source>
+        <translation>選んだクロックの周波数。</translation>
+    </message>
+    <message>
+        <source>DeviceClockSelector_Tooltip</source>
+        <translation>周波数を表示するクロックを選びます。</translation>
+    </message>
+    <message>
+        <source>DeviceControl_Tooltip</source>
+        <translation>カメラの識別情報と全般設定。</translation>
+    </message>
+    <message>
+        <source>DeviceEventChannelCount_Tooltip</source>
+        <translation>カメラのイベントチャンネルの数。</translation>
+    </message>
+    <message>
         <source>DeviceFamilyName_Tooltip</source>
         <translation>カメラが属する製品ファミリー。</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceEnd_Tooltip</source>
+        <translation>機能の値のカメラへの保存を終えます。</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceStart_Tooltip</source>
+        <translation>現在の機能の値をカメラに保存し始めます。</translation>
     </message>
     <message>
         <source>DeviceFirmwareVersion_Tooltip</source>
         <translation>カメラのファームウェアのバージョン。</translation>
     </message>
     <message>
+        <source>DeviceGenCPVersionMajor_Tooltip</source>
+        <translation>カメラの制御プロトコルのメジャーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceGenCPVersionMinor_Tooltip</source>
+        <translation>カメラの制御プロトコルのマイナーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceID_Tooltip</source>
+        <translation>カメラの旧識別子。代わりに DeviceSerialNumber を使ってください。</translation>
+    </message>
+    <message>
+        <source>DeviceIndicatorMode_Tooltip</source>
+        <translation>カメラのステータスランプの表示内容。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCommandTimeout_Tooltip</source>
+        <translation>カメラがコマンドに応答するまでの最長時間。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
+        <translation>ハートビートがないまま経過すると、カメラが接続を切る時間。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSelector_Tooltip</source>
+        <translation>設定するカメラのリンクを選びます。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSpeed_Tooltip</source>
+        <translation>リンクで確立された速度 (バイト/秒)。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimit_Tooltip</source>
+        <translation>カメラがリンクで送る最大データレート (バイト/秒)。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimitMode_Tooltip</source>
+        <translation>データレートの上限をオンまたはオフにします。オンにするとフレームレートが下がることがあります。</translation>
+    </message>
+    <message>
+        <source>DeviceManifestEntrySelector_Tooltip</source>
+        <translation>読み出す記述ファイル一覧の項目を選びます。</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMajorVersion_Tooltip</source>
+        <translation>選んだ項目の記述ファイルのメジャーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMinorVersion_Tooltip</source>
+        <translation>選んだ項目の記述ファイルのマイナーバージョン。</translation>
+    </message>
+    <message>
         <source>DeviceManufacturerInfo_Tooltip</source>
         <translation>カメラメーカーからの追加情報。</translation>
+    </message>
+    <message>
+        <source>DeviceMaxThroughput_Tooltip</source>
+        <translation>カメラが維持できる最大データレート (バイト/秒)。</translation>
     </message>
     <message>
         <source>DeviceModelName_Tooltip</source>
         <translation>カメラの型式名。</translation>
     </message>
     <message>
+        <source>DeviceRegistersCheck_Tooltip</source>
+        <translation>レジスタ設定に矛盾がないか確認します。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersEndianness_Tooltip</source>
+        <translation>カメラのレジスタのバイト順。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingEnd_Tooltip</source>
+        <translation>一連のレジスタ書き込みを終えます。カメラが内容を確認します。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingStart_Tooltip</source>
+        <translation>一連のレジスタ書き込みに備えてカメラを準備します。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersValid_Tooltip</source>
+        <translation>レジスタ設定に矛盾がなければ 1。</translation>
+    </message>
+    <message>
         <source>DeviceReset_Tooltip</source>
         <translation>カメラを再起動します。復帰するまで接続は切れます。</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMajor_Tooltip</source>
+        <translation>カメラが準拠する機能命名規約のメジャーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMinor_Tooltip</source>
+        <translation>カメラが準拠する機能命名規約のマイナーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionSubMinor_Tooltip</source>
+        <translation>カメラが準拠する機能命名規約のサブマイナーバージョン。</translation>
     </message>
     <message>
         <source>DeviceScanType_Tooltip</source>
@@ -124,8 +384,52 @@
         <translation>カメラのシリアル番号。</translation>
     </message>
     <message>
+        <source>DeviceStreamChannelCount_Tooltip</source>
+        <translation>カメラの画像ストリームチャンネルの数。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelEndianness_Tooltip</source>
+        <translation>ストリーム内の 1 バイトを超える画素データのバイト順。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelPacketSize_Tooltip</source>
+        <translation>選んだストリームチャンネルのパケットサイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelSelector_Tooltip</source>
+        <translation>設定するストリームチャンネルを選びます。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelType_Tooltip</source>
+        <translation>選んだストリームチャンネルが送信か受信か。</translation>
+    </message>
+    <message>
+        <source>DeviceTLType_Tooltip</source>
+        <translation>カメラの接続インターフェースの種類。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>カメラの伝送プロトコルのメジャーバージョン。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>カメラの伝送プロトコルのマイナーバージョン。</translation>
+    </message>
+    <message>
         <source>DeviceTemperature_Tooltip</source>
         <translation>カメラ内の選んだ場所の温度 (摂氏)。</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureSelector_Tooltip</source>
+        <translation>温度を表示するカメラ内の場所を選びます。</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureStatus_Tooltip</source>
+        <translation>カメラの温度が正常か、高いか、危険か。</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>リンク上でのカメラの役割 (送信側など)。</translation>
     </message>
     <message>
         <source>DeviceUserID_Tooltip</source>
@@ -138,6 +442,14 @@
     <message>
         <source>DeviceVersion_Tooltip</source>
         <translation>カメラのハードウェアバージョン。</translation>
+    </message>
+    <message>
+        <source>DigitalIO_Tooltip</source>
+        <translation>I/O コネクターのラインとユーザー出力。</translation>
+    </message>
+    <message>
+        <source>DigitalShift_Tooltip</source>
+        <translation>画素値をこのビット数だけ左へシフトし、画像を明るくします。</translation>
     </message>
     <message>
         <source>EncoderDivider_Tooltip</source>
@@ -416,6 +728,22 @@
         <translation>1 枚の画像でセンサーが光を取り込む時間 (マイクロ秒)。</translation>
     </message>
     <message>
+        <source>ExposureTimeBaseAbs_Tooltip</source>
+        <translation>旧方式の露光設定で使う ExposureTimeRaw の時間単位。</translation>
+    </message>
+    <message>
+        <source>ExposureTimeBaseAbsEnable_Tooltip</source>
+        <translation>旧方式の露光設定: ExposureTimeRaw × ExposureTimeBaseAbs。</translation>
+    </message>
+    <message>
+        <source>ExposureTimeMode_Tooltip</source>
+        <translation>設定できる露光時間の範囲: 標準または超短時間。</translation>
+    </message>
+    <message>
+        <source>ExposureTimeRaw_Tooltip</source>
+        <translation>旧方式の露光時間 (ExposureTimeBaseAbs 単位)。</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>センサー信号の増幅率。上げると画像は明るくなりますがノイズも増えます。</translation>
     </message>
@@ -430,6 +758,14 @@
     <message>
         <source>Gamma_Tooltip</source>
         <translation>画素値のガンマ補正。</translation>
+    </message>
+    <message>
+        <source>GammaEnable_Tooltip</source>
+        <translation>ガンマ補正を適用します。</translation>
+    </message>
+    <message>
+        <source>GammaSelector_Tooltip</source>
+        <translation>ユーザー指定のガンマ値か sRGB カーブかを選びます。</translation>
     </message>
     <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
@@ -448,6 +784,22 @@
         <translation>カメラが送る画像の高さ (画素)。</translation>
     </message>
     <message>
+        <source>Hue_Tooltip</source>
+        <translation>色相を回転させます。</translation>
+    </message>
+    <message>
+        <source>ImageFormatControl_Tooltip</source>
+        <translation>画像のサイズ、位置、フォーマット。</translation>
+    </message>
+    <message>
+        <source>ImageQualityControl_Tooltip</source>
+        <translation>カメラ内で行う補正。</translation>
+    </message>
+    <message>
+        <source>LUTControls_Tooltip</source>
+        <translation>画素値を変換するルックアップテーブル。</translation>
+    </message>
+    <message>
         <source>LUTEnable_Tooltip</source>
         <translation>選んだルックアップテーブルを画素値に適用します。</translation>
     </message>
@@ -464,8 +816,28 @@
         <translation>LUTIndex で選んだルックアップテーブル項目の値。</translation>
     </message>
     <message>
+        <source>LUTValueAll_Tooltip</source>
+        <translation>選んだルックアップテーブルの全項目 (16 進テキスト)。</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>照明の種類に合わせた色補正。</translation>
+    </message>
+    <message>
+        <source>LineDebouncerTime_Tooltip</source>
+        <translation>選んだ入力ラインで信号として受け付ける最短のパルス。</translation>
+    </message>
+    <message>
+        <source>LineFormat_Tooltip</source>
+        <translation>選んだラインの電気的な方式。</translation>
+    </message>
+    <message>
         <source>LineInverter_Tooltip</source>
         <translation>選んだラインの信号を反転します。</translation>
+    </message>
+    <message>
+        <source>LineMinimumOutputPulseWidth_Tooltip</source>
+        <translation>選んだ出力ラインに出す最短のパルス。</translation>
     </message>
     <message>
         <source>LineMode_Tooltip</source>
@@ -488,6 +860,10 @@
         <translation>全ラインのレベルを 1 ラインにつき 1 ビットで表します。</translation>
     </message>
     <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>高画質デモザイク時にかけるノイズ低減。</translation>
+    </message>
+    <message>
         <source>OffsetX_Tooltip</source>
         <translation>センサー上の画像領域の水平位置 (左端からの画素数)。</translation>
     </message>
@@ -496,8 +872,24 @@
         <translation>センサー上の画像領域の垂直位置 (上端からの画素数)。</translation>
     </message>
     <message>
+        <source>PixelColorFilter_Tooltip</source>
+        <translation>センサーのカラーフィルター配列。</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMin_Tooltip</source>
+        <translation>現在の画素フォーマットで画素が取りうる最小値。</translation>
+    </message>
+    <message>
         <source>PixelFormat_Tooltip</source>
         <translation>カメラが送る画像の画素フォーマット。</translation>
+    </message>
+    <message>
+        <source>PixelFormatLegacy_Tooltip</source>
+        <translation>PixelFormat に旧式のパック画素フォーマットを表示します。</translation>
+    </message>
+    <message>
+        <source>PixelSize_Tooltip</source>
+        <translation>画像の 1 画素のビット数。</translation>
     </message>
     <message>
         <source>PtpEnable_Tooltip</source>
@@ -516,12 +908,72 @@
         <translation>画像を上下反転します。</translation>
     </message>
     <message>
+        <source>Root_Tooltip</source>
+        <translation>カメラのすべての機能。</translation>
+    </message>
+    <message>
+        <source>Saturation_Tooltip</source>
+        <translation>色の鮮やかさ。</translation>
+    </message>
+    <message>
+        <source>SensorDigitizationTaps_Tooltip</source>
+        <translation>センサーのデジタル出力の数。</translation>
+    </message>
+    <message>
+        <source>SensorHeight_Tooltip</source>
+        <translation>センサーの有効高さ (画素)。</translation>
+    </message>
+    <message>
+        <source>SensorName_Tooltip</source>
+        <translation>イメージセンサーの名前。</translation>
+    </message>
+    <message>
+        <source>SensorPixelHeight_Tooltip</source>
+        <translation>1 画素の物理的な高さ (マイクロメートル)。</translation>
+    </message>
+    <message>
+        <source>SensorPixelWidth_Tooltip</source>
+        <translation>1 画素の物理的な幅 (マイクロメートル)。</translation>
+    </message>
+    <message>
+        <source>SensorReadoutMode_Tooltip</source>
+        <translation>高速読み出しは読み出し時間を短くしますが、ノイズが増えます。</translation>
+    </message>
+    <message>
+        <source>SensorShutterMode_Tooltip</source>
+        <translation>センサーのシャッター方式: グローバルまたはローリング。</translation>
+    </message>
+    <message>
+        <source>SensorTaps_Tooltip</source>
+        <translation>センサーの読み出しタップ数。</translation>
+    </message>
+    <message>
+        <source>SensorWidth_Tooltip</source>
+        <translation>センサーの有効幅 (画素)。</translation>
+    </message>
+    <message>
+        <source>ShadingCorrectionMode_Tooltip</source>
+        <translation>照明むらとセンサーのシェーディングを補正します。</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>高画質デモザイク時にかけるシャープ処理。</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>選んだソフトウェア信号にパルスを出します。</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>パルスを出すソフトウェア信号を選びます。</translation>
+    </message>
+    <message>
+        <source>TestPattern_Tooltip</source>
+        <translation>センサー画像をテストパターンに置き換えます。</translation>
+    </message>
+    <message>
+        <source>TestPatternGeneratorSelector_Tooltip</source>
+        <translation>設定するテストパターン生成器を選びます。</translation>
     </message>
     <message>
         <source>TimerDelay_Tooltip</source>
@@ -540,6 +992,22 @@
         <translation>選んだタイマーを開始させる信号。</translation>
     </message>
     <message>
+        <source>Timestamp_Tooltip</source>
+        <translation>カメラのタイムスタンプカウンターの現在値 (電源投入からのナノ秒)。</translation>
+    </message>
+    <message>
+        <source>TimestampLatch_Tooltip</source>
+        <translation>現在のタイムスタンプを TimestampLatchValue に保持します。</translation>
+    </message>
+    <message>
+        <source>TimestampLatchValue_Tooltip</source>
+        <translation>最後の TimestampLatch で保持したタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>TimestampReset_Tooltip</source>
+        <translation>タイムスタンプカウンターを 0 に戻します。</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>トリガーとなる信号のエッジまたはレベル。</translation>
     </message>
@@ -548,8 +1016,16 @@
         <translation>トリガーから露光開始までの時間 (マイクロ秒)。</translation>
     </message>
     <message>
+        <source>TriggerDivider_Tooltip</source>
+        <translation>n 回ごとに 1 回のトリガー信号だけを使います。</translation>
+    </message>
+    <message>
         <source>TriggerMode_Tooltip</source>
         <translation>トリガーを受けたときだけ撮像するかどうか。</translation>
+    </message>
+    <message>
+        <source>TriggerOverlap_Tooltip</source>
+        <translation>前の画像の読み出し中にトリガーを受け付けるかどうか。</translation>
     </message>
     <message>
         <source>TriggerSelector_Tooltip</source>
@@ -570,6 +1046,14 @@
     <message>
         <source>UserOutputValue_Tooltip</source>
         <translation>選んだユーザー出力のレベル。</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAll_Tooltip</source>
+        <translation>全ユーザー出力のレベル (1 出力 1 ビット)。</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAllMask_Tooltip</source>
+        <translation>UserOutputValueAll のうち書き込むビット。</translation>
     </message>
     <message>
         <source>UserSetDefault_Tooltip</source>

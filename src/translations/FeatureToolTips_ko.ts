@@ -4,12 +4,28 @@
 <context>
     <name>CameraDevice</name>
     <message>
+        <source>ADCBitDepth_Tooltip</source>
+        <translation>A/D 변환기의 분해능(비트)입니다.</translation>
+    </message>
+    <message>
         <source>AcquisitionAbort_Tooltip</source>
         <translation>촬영을 즉시 중단합니다. 찍고 있던 이미지는 잃습니다.</translation>
     </message>
     <message>
+        <source>AcquisitionBurstFrameCount_Tooltip</source>
+        <translation>버스트 트리거 한 번마다 찍는 이미지 수입니다.</translation>
+    </message>
+    <message>
+        <source>AcquisitionControl_Tooltip</source>
+        <translation>촬영, 트리거, 노출입니다.</translation>
+    </message>
+    <message>
         <source>AcquisitionFrameCount_Tooltip</source>
         <translation>멀티 프레임 모드에서 찍는 이미지 수입니다.</translation>
+    </message>
+    <message>
+        <source>AcquisitionFrameCounter_Tooltip</source>
+        <translation>카메라를 켠 뒤 찍은 이미지 수입니다.</translation>
     </message>
     <message>
         <source>AcquisitionFrameRate_Tooltip</source>
@@ -28,12 +44,72 @@
         <translation>촬영을 시작합니다.</translation>
     </message>
     <message>
+        <source>AcquisitionStatus_Tooltip</source>
+        <translation>카메라가 촬영 중이면 참입니다.</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>현재 이미지 다음에 촬영을 멈춥니다.</translation>
     </message>
     <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>카메라가 액션 명령을 받아들이기 위한 키입니다.</translation>
+    </message>
+    <message>
+        <source>AnalogControl_Tooltip</source>
+        <translation>게인, 블랙 레벨, 감마, 색입니다.</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeLowerLimit_Tooltip</source>
+        <translation>자동 노출이 고를 수 있는 가장 짧은 노출 시간입니다.</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeUpperLimit_Tooltip</source>
+        <translation>자동 노출이 고를 수 있는 가장 긴 노출 시간입니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionControl_Tooltip</source>
+        <translation>자동 기능의 목표, 한계, 영역입니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionProfile_Tooltip</source>
+        <translation>자동 제어가 게인과 노출 시간 중 무엇을 낮게 유지할지입니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIHeight_Tooltip</source>
+        <translation>선택한 자동 기능 영역의 높이(픽셀)입니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetX_Tooltip</source>
+        <translation>선택한 자동 기능 영역의 가로 위치입니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetY_Tooltip</source>
+        <translation>선택한 자동 기능 영역의 세로 위치입니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROISelector_Tooltip</source>
+        <translation>자동 기능이 살펴볼 이미지 영역을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseBrightness_Tooltip</source>
+        <translation>자동 노출과 자동 게인이 선택한 영역을 살펴봅니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseWhiteBalance_Tooltip</source>
+        <translation>자동 화이트 밸런스가 선택한 영역을 살펴봅니다.</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIWidth_Tooltip</source>
+        <translation>선택한 자동 기능 영역의 너비(픽셀)입니다.</translation>
+    </message>
+    <message>
+        <source>AutoGainLowerLimit_Tooltip</source>
+        <translation>자동 게인이 고를 수 있는 가장 낮은 게인입니다.</translation>
+    </message>
+    <message>
+        <source>AutoGainUpperLimit_Tooltip</source>
+        <translation>자동 게인이 고를 수 있는 가장 높은 게인입니다.</translation>
     </message>
     <message>
         <source>AutoTargetBrightness_Tooltip</source>
@@ -56,12 +132,40 @@
         <translation>한 픽셀로 합치는 인접 열의 수입니다.</translation>
     </message>
     <message>
+        <source>BinningHorizontalMode_Tooltip</source>
+        <translation>비닝한 열을 합치는 방식: 합산 또는 평균.</translation>
+    </message>
+    <message>
+        <source>BinningSelector_Tooltip</source>
+        <translation>비닝을 수행하는 곳(센서 또는 카메라 로직)을 선택합니다.</translation>
+    </message>
+    <message>
         <source>BinningVertical_Tooltip</source>
         <translation>한 픽셀로 합치는 인접 행의 수입니다.</translation>
     </message>
     <message>
+        <source>BinningVerticalMode_Tooltip</source>
+        <translation>비닝한 행을 합치는 방식: 합산 또는 평균.</translation>
+    </message>
+    <message>
         <source>BlackLevel_Tooltip</source>
         <translation>모든 픽셀 값에 더하는 오프셋으로, 가장 어두운 부분을 올리거나 내립니다.</translation>
+    </message>
+    <message>
+        <source>BlackLevelAuto_Tooltip</source>
+        <translation>카메라가 블랙 레벨을 스스로 맞춥니다.</translation>
+    </message>
+    <message>
+        <source>BlackLevelSelector_Tooltip</source>
+        <translation>BlackLevel이 설정할 블랙 레벨을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>CenterX_Tooltip</source>
+        <translation>이미지 영역을 가로 가운데에 둡니다. 그러면 OffsetX는 자동으로 정해집니다.</translation>
+    </message>
+    <message>
+        <source>CenterY_Tooltip</source>
+        <translation>이미지 영역을 세로 가운데에 둡니다. 그러면 OffsetY는 자동으로 정해집니다.</translation>
     </message>
     <message>
         <source>ChunkEnable_Tooltip</source>
@@ -80,6 +184,30 @@
         <translation>마지막 이미지의 타임스탬프(청크에서)입니다.</translation>
     </message>
     <message>
+        <source>ColorControls_Tooltip</source>
+        <translation>화이트 밸런스와 색 처리입니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>색 변환 행렬입니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationEnable_Tooltip</source>
+        <translation>색 변환 행렬을 적용합니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>아래 기능이 설정할 색 변환을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>선택한 행렬 계수의 값입니다.</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>행렬의 계수를 선택합니다.</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>선택한 카운터가 세는 신호입니다.</translation>
     </message>
@@ -96,24 +224,156 @@
         <translation>선택한 카운터의 현재 값입니다.</translation>
     </message>
     <message>
+        <source>DecimationHorizontal_Tooltip</source>
+        <translation>n열마다 한 열만 읽어 냅니다.</translation>
+    </message>
+    <message>
+        <source>DecimationVertical_Tooltip</source>
+        <translation>n행마다 한 행만 읽어 냅니다.</translation>
+    </message>
+    <message>
+        <source>DefectPixelCorrectionMode_Tooltip</source>
+        <translation>알려진 불량 픽셀의 값을 바꿉니다.</translation>
+    </message>
+    <message>
+        <source>DemosaicingMode_Tooltip</source>
+        <translation>카메라 안에서 베이어 패턴으로 풀 컬러를 구하는 방식입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceCharacterSet_Tooltip</source>
+        <translation>카메라에 저장된 문자열의 문자 집합입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceClockFrequency_Tooltip</source>
+        <translation>선택한 클록의 주파수입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceClockSelector_Tooltip</source>
+        <translation>주파수를 표시할 클록을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceControl_Tooltip</source>
+        <translation>카메라의 식별 정보와 일반 설정입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceEventChannelCount_Tooltip</source>
+        <translation>카메라의 이벤트 채널 수입니다.</translation>
+    </message>
+    <message>
         <source>DeviceFamilyName_Tooltip</source>
         <translation>카메라가 속한 제품군입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceEnd_Tooltip</source>
+        <translation>기능 값을 카메라에 저장하는 것을 마칩니다.</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceStart_Tooltip</source>
+        <translation>현재 기능 값을 카메라에 저장하기 시작합니다.</translation>
     </message>
     <message>
         <source>DeviceFirmwareVersion_Tooltip</source>
         <translation>카메라 펌웨어의 버전입니다.</translation>
     </message>
     <message>
+        <source>DeviceGenCPVersionMajor_Tooltip</source>
+        <translation>카메라 제어 프로토콜의 주 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceGenCPVersionMinor_Tooltip</source>
+        <translation>카메라 제어 프로토콜의 부 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceID_Tooltip</source>
+        <translation>카메라의 예전 식별자입니다. 대신 DeviceSerialNumber를 쓰십시오.</translation>
+    </message>
+    <message>
+        <source>DeviceIndicatorMode_Tooltip</source>
+        <translation>카메라 상태 표시등이 보여 주는 내용입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCommandTimeout_Tooltip</source>
+        <translation>카메라가 명령에 응답하는 데 걸리는 최대 시간입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
+        <translation>하트비트 없이 이 시간이 지나면 카메라가 연결을 끊습니다.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSelector_Tooltip</source>
+        <translation>설정할 카메라 링크를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSpeed_Tooltip</source>
+        <translation>링크에서 협상된 속도(초당 바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimit_Tooltip</source>
+        <translation>카메라가 링크로 보내는 최대 데이터 속도(초당 바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimitMode_Tooltip</source>
+        <translation>데이터 속도 제한을 켜거나 끕니다. 켜면 프레임 속도가 떨어질 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>DeviceManifestEntrySelector_Tooltip</source>
+        <translation>읽을 기술 파일 목록 항목을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMajorVersion_Tooltip</source>
+        <translation>선택한 항목의 기술 파일 주 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMinorVersion_Tooltip</source>
+        <translation>선택한 항목의 기술 파일 부 버전입니다.</translation>
+    </message>
+    <message>
         <source>DeviceManufacturerInfo_Tooltip</source>
         <translation>카메라 제조사의 추가 정보입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceMaxThroughput_Tooltip</source>
+        <translation>카메라가 유지할 수 있는 최대 데이터 속도(초당 바이트)입니다.</translation>
     </message>
     <message>
         <source>DeviceModelName_Tooltip</source>
         <translation>카메라의 모델 이름입니다.</translation>
     </message>
     <message>
+        <source>DeviceRegistersCheck_Tooltip</source>
+        <translation>레지스터 설정이 서로 맞는지 확인합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersEndianness_Tooltip</source>
+        <translation>카메라 레지스터의 바이트 순서입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingEnd_Tooltip</source>
+        <translation>연속 레지스터 쓰기를 마칩니다. 그러면 카메라가 값을 확인합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingStart_Tooltip</source>
+        <translation>연속 레지스터 쓰기를 위해 카메라를 준비합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersValid_Tooltip</source>
+        <translation>레지스터 설정이 서로 맞으면 1입니다.</translation>
+    </message>
+    <message>
         <source>DeviceReset_Tooltip</source>
         <translation>카메라를 다시 시작합니다. 돌아올 때까지 연결이 끊깁니다.</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMajor_Tooltip</source>
+        <translation>카메라가 따르는 기능 명명 표준의 주 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMinor_Tooltip</source>
+        <translation>카메라가 따르는 기능 명명 표준의 부 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionSubMinor_Tooltip</source>
+        <translation>카메라가 따르는 기능 명명 표준의 하위 부 버전입니다.</translation>
     </message>
     <message>
         <source>DeviceScanType_Tooltip</source>
@@ -124,8 +384,52 @@
         <translation>카메라의 일련번호입니다.</translation>
     </message>
     <message>
+        <source>DeviceStreamChannelCount_Tooltip</source>
+        <translation>카메라의 이미지 스트림 채널 수입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelEndianness_Tooltip</source>
+        <translation>스트림에서 1바이트보다 넓은 픽셀 데이터의 바이트 순서입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelPacketSize_Tooltip</source>
+        <translation>선택한 스트림 채널의 패킷 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelSelector_Tooltip</source>
+        <translation>설정할 스트림 채널을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelType_Tooltip</source>
+        <translation>선택한 스트림 채널이 송신인지 수신인지입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceTLType_Tooltip</source>
+        <translation>카메라가 연결된 인터페이스 종류입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>카메라 전송 프로토콜의 주 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>카메라 전송 프로토콜의 부 버전입니다.</translation>
+    </message>
+    <message>
         <source>DeviceTemperature_Tooltip</source>
         <translation>카메라 안 선택한 위치의 온도(섭씨)입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureSelector_Tooltip</source>
+        <translation>온도를 표시할 카메라 안의 위치를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureStatus_Tooltip</source>
+        <translation>카메라 온도가 정상인지, 높은지, 위험한지입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>링크에서 카메라의 역할(송신기 등)입니다.</translation>
     </message>
     <message>
         <source>DeviceUserID_Tooltip</source>
@@ -138,6 +442,14 @@
     <message>
         <source>DeviceVersion_Tooltip</source>
         <translation>카메라의 하드웨어 버전입니다.</translation>
+    </message>
+    <message>
+        <source>DigitalIO_Tooltip</source>
+        <translation>I/O 커넥터의 라인과 사용자 출력입니다.</translation>
+    </message>
+    <message>
+        <source>DigitalShift_Tooltip</source>
+        <translation>픽셀 값을 이 비트 수만큼 왼쪽으로 밀어 이미지를 밝게 합니다.</translation>
     </message>
     <message>
         <source>EncoderDivider_Tooltip</source>
@@ -416,6 +728,22 @@
         <translation>이미지 한 장마다 센서가 빛을 모으는 시간(마이크로초)입니다.</translation>
     </message>
     <message>
+        <source>ExposureTimeBaseAbs_Tooltip</source>
+        <translation>예전 노출 설정 방식에서 ExposureTimeRaw의 시간 단위입니다.</translation>
+    </message>
+    <message>
+        <source>ExposureTimeBaseAbsEnable_Tooltip</source>
+        <translation>예전 노출 설정 방식: ExposureTimeRaw × ExposureTimeBaseAbs.</translation>
+    </message>
+    <message>
+        <source>ExposureTimeMode_Tooltip</source>
+        <translation>설정할 수 있는 노출 시간 범위: 표준 또는 초단시간.</translation>
+    </message>
+    <message>
+        <source>ExposureTimeRaw_Tooltip</source>
+        <translation>예전 방식의 노출 시간(ExposureTimeBaseAbs 단위)입니다.</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>센서 신호의 증폭량입니다. 높이면 이미지가 밝아지지만 노이즈도 늘어납니다.</translation>
     </message>
@@ -430,6 +758,14 @@
     <message>
         <source>Gamma_Tooltip</source>
         <translation>픽셀 값의 감마 보정입니다.</translation>
+    </message>
+    <message>
+        <source>GammaEnable_Tooltip</source>
+        <translation>감마 보정을 적용합니다.</translation>
+    </message>
+    <message>
+        <source>GammaSelector_Tooltip</source>
+        <translation>사용자 감마 값과 sRGB 곡선 중에서 선택합니다.</translation>
     </message>
     <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
@@ -448,6 +784,22 @@
         <translation>카메라가 보내는 이미지의 높이(픽셀)입니다.</translation>
     </message>
     <message>
+        <source>Hue_Tooltip</source>
+        <translation>색조를 회전시킵니다.</translation>
+    </message>
+    <message>
+        <source>ImageFormatControl_Tooltip</source>
+        <translation>이미지의 크기, 위치, 형식입니다.</translation>
+    </message>
+    <message>
+        <source>ImageQualityControl_Tooltip</source>
+        <translation>카메라 안에서 하는 보정입니다.</translation>
+    </message>
+    <message>
+        <source>LUTControls_Tooltip</source>
+        <translation>픽셀 값을 바꾸는 룩업 테이블입니다.</translation>
+    </message>
+    <message>
         <source>LUTEnable_Tooltip</source>
         <translation>선택한 룩업 테이블을 픽셀 값에 적용합니다.</translation>
     </message>
@@ -464,8 +816,28 @@
         <translation>LUTIndex로 고른 룩업 테이블 항목의 값입니다.</translation>
     </message>
     <message>
+        <source>LUTValueAll_Tooltip</source>
+        <translation>선택한 룩업 테이블의 모든 항목(16진 텍스트)입니다.</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>조명 종류에 맞춘 색 보정입니다.</translation>
+    </message>
+    <message>
+        <source>LineDebouncerTime_Tooltip</source>
+        <translation>선택한 입력 라인에서 신호로 받아들이는 가장 짧은 펄스입니다.</translation>
+    </message>
+    <message>
+        <source>LineFormat_Tooltip</source>
+        <translation>선택한 라인의 전기적 방식입니다.</translation>
+    </message>
+    <message>
         <source>LineInverter_Tooltip</source>
         <translation>선택한 라인의 신호를 반전합니다.</translation>
+    </message>
+    <message>
+        <source>LineMinimumOutputPulseWidth_Tooltip</source>
+        <translation>선택한 출력 라인에 내보내는 가장 짧은 펄스입니다.</translation>
     </message>
     <message>
         <source>LineMode_Tooltip</source>
@@ -488,6 +860,10 @@
         <translation>모든 라인의 레벨을 라인당 1비트로 나타냅니다.</translation>
     </message>
     <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>고화질 디모자이크 때 적용하는 노이즈 감소입니다.</translation>
+    </message>
+    <message>
         <source>OffsetX_Tooltip</source>
         <translation>센서에서 이미지 영역의 가로 위치(왼쪽부터 픽셀 수)입니다.</translation>
     </message>
@@ -496,8 +872,24 @@
         <translation>센서에서 이미지 영역의 세로 위치(위쪽부터 픽셀 수)입니다.</translation>
     </message>
     <message>
+        <source>PixelColorFilter_Tooltip</source>
+        <translation>센서의 컬러 필터 배열입니다.</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMin_Tooltip</source>
+        <translation>현재 픽셀 형식에서 픽셀이 가질 수 있는 최솟값입니다.</translation>
+    </message>
+    <message>
         <source>PixelFormat_Tooltip</source>
         <translation>카메라가 보내는 이미지의 픽셀 형식입니다.</translation>
+    </message>
+    <message>
+        <source>PixelFormatLegacy_Tooltip</source>
+        <translation>PixelFormat에 예전 패킹 픽셀 형식을 보여 줍니다.</translation>
+    </message>
+    <message>
+        <source>PixelSize_Tooltip</source>
+        <translation>이미지 픽셀 하나의 비트 수입니다.</translation>
     </message>
     <message>
         <source>PtpEnable_Tooltip</source>
@@ -516,12 +908,72 @@
         <translation>이미지를 상하로 뒤집습니다.</translation>
     </message>
     <message>
+        <source>Root_Tooltip</source>
+        <translation>카메라의 모든 기능입니다.</translation>
+    </message>
+    <message>
+        <source>Saturation_Tooltip</source>
+        <translation>색의 선명도입니다.</translation>
+    </message>
+    <message>
+        <source>SensorDigitizationTaps_Tooltip</source>
+        <translation>센서의 디지털 출력 수입니다.</translation>
+    </message>
+    <message>
+        <source>SensorHeight_Tooltip</source>
+        <translation>센서 유효 영역의 높이(픽셀)입니다.</translation>
+    </message>
+    <message>
+        <source>SensorName_Tooltip</source>
+        <translation>이미지 센서의 이름입니다.</translation>
+    </message>
+    <message>
+        <source>SensorPixelHeight_Tooltip</source>
+        <translation>픽셀 하나의 물리적 높이(마이크로미터)입니다.</translation>
+    </message>
+    <message>
+        <source>SensorPixelWidth_Tooltip</source>
+        <translation>픽셀 하나의 물리적 너비(마이크로미터)입니다.</translation>
+    </message>
+    <message>
+        <source>SensorReadoutMode_Tooltip</source>
+        <translation>빠른 읽기는 읽기 시간을 줄이지만 노이즈가 늘어납니다.</translation>
+    </message>
+    <message>
+        <source>SensorShutterMode_Tooltip</source>
+        <translation>센서의 셔터 방식: 글로벌 또는 롤링.</translation>
+    </message>
+    <message>
+        <source>SensorTaps_Tooltip</source>
+        <translation>센서를 읽어 내는 탭 수입니다.</translation>
+    </message>
+    <message>
+        <source>SensorWidth_Tooltip</source>
+        <translation>센서 유효 영역의 너비(픽셀)입니다.</translation>
+    </message>
+    <message>
+        <source>ShadingCorrectionMode_Tooltip</source>
+        <translation>고르지 않은 조명과 센서 셰이딩을 보정합니다.</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>고화질 디모자이크 때 적용하는 선명도 향상입니다.</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>선택한 소프트웨어 신호에 펄스를 보냅니다.</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>펄스를 낼 소프트웨어 신호를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>TestPattern_Tooltip</source>
+        <translation>센서 이미지를 테스트 패턴으로 바꿉니다.</translation>
+    </message>
+    <message>
+        <source>TestPatternGeneratorSelector_Tooltip</source>
+        <translation>설정할 테스트 패턴 생성기를 선택합니다.</translation>
     </message>
     <message>
         <source>TimerDelay_Tooltip</source>
@@ -540,6 +992,22 @@
         <translation>선택한 타이머를 시작시키는 신호입니다.</translation>
     </message>
     <message>
+        <source>Timestamp_Tooltip</source>
+        <translation>카메라 타임스탬프 카운터의 현재 값(전원을 켠 뒤 나노초)입니다.</translation>
+    </message>
+    <message>
+        <source>TimestampLatch_Tooltip</source>
+        <translation>현재 타임스탬프를 TimestampLatchValue에 복사합니다.</translation>
+    </message>
+    <message>
+        <source>TimestampLatchValue_Tooltip</source>
+        <translation>마지막 TimestampLatch로 복사한 타임스탬프입니다.</translation>
+    </message>
+    <message>
+        <source>TimestampReset_Tooltip</source>
+        <translation>타임스탬프 카운터를 0으로 되돌립니다.</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>트리거를 일으키는 신호의 에지 또는 레벨입니다.</translation>
     </message>
@@ -548,8 +1016,16 @@
         <translation>트리거부터 노출 시작까지의 시간(마이크로초)입니다.</translation>
     </message>
     <message>
+        <source>TriggerDivider_Tooltip</source>
+        <translation>n번마다 한 번의 트리거 신호만 씁니다.</translation>
+    </message>
+    <message>
         <source>TriggerMode_Tooltip</source>
         <translation>트리거가 들어올 때만 촬영할지 여부입니다.</translation>
+    </message>
+    <message>
+        <source>TriggerOverlap_Tooltip</source>
+        <translation>이전 이미지를 읽어 내는 중에도 트리거를 받을지 여부입니다.</translation>
     </message>
     <message>
         <source>TriggerSelector_Tooltip</source>
@@ -570,6 +1046,14 @@
     <message>
         <source>UserOutputValue_Tooltip</source>
         <translation>선택한 사용자 출력의 레벨입니다.</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAll_Tooltip</source>
+        <translation>모든 사용자 출력의 레벨(출력당 1비트)입니다.</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAllMask_Tooltip</source>
+        <translation>UserOutputValueAll에서 쓸 비트입니다.</translation>
     </message>
     <message>
         <source>UserSetDefault_Tooltip</source>

@@ -4,12 +4,28 @@
 <context>
     <name>CameraDevice</name>
     <message>
+        <source>ADCBitDepth_Tooltip</source>
+        <translation>模数转换的分辨率（位）。</translation>
+    </message>
+    <message>
         <source>AcquisitionAbort_Tooltip</source>
         <translation>立即停止采集，正在采集的图像将丢失。</translation>
     </message>
     <message>
+        <source>AcquisitionBurstFrameCount_Tooltip</source>
+        <translation>每次突发触发采集的图像数量。</translation>
+    </message>
+    <message>
+        <source>AcquisitionControl_Tooltip</source>
+        <translation>采集、触发与曝光。</translation>
+    </message>
+    <message>
         <source>AcquisitionFrameCount_Tooltip</source>
         <translation>多帧模式下采集的图像数量。</translation>
+    </message>
+    <message>
+        <source>AcquisitionFrameCounter_Tooltip</source>
+        <translation>相机通电以来采集的图像数量。</translation>
     </message>
     <message>
         <source>AcquisitionFrameRate_Tooltip</source>
@@ -28,12 +44,72 @@
         <translation>开始采集图像。</translation>
     </message>
     <message>
+        <source>AcquisitionStatus_Tooltip</source>
+        <translation>相机正在采集图像时为真。</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>在当前图像之后停止采集。</translation>
     </message>
     <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>相机接受动作命令所需的密钥。</translation>
+    </message>
+    <message>
+        <source>AnalogControl_Tooltip</source>
+        <translation>增益、黑电平、伽马与颜色。</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeLowerLimit_Tooltip</source>
+        <translation>自动曝光可选的最短曝光时间。</translation>
+    </message>
+    <message>
+        <source>AutoExposureTimeUpperLimit_Tooltip</source>
+        <translation>自动曝光可选的最长曝光时间。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionControl_Tooltip</source>
+        <translation>自动功能的目标、限值和区域。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionProfile_Tooltip</source>
+        <translation>自动控制优先压低增益还是曝光时间。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIHeight_Tooltip</source>
+        <translation>所选自动功能区域的高度（像素）。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetX_Tooltip</source>
+        <translation>所选自动功能区域的水平位置。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIOffsetY_Tooltip</source>
+        <translation>所选自动功能区域的垂直位置。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROISelector_Tooltip</source>
+        <translation>选择自动功能评估的图像区域。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseBrightness_Tooltip</source>
+        <translation>自动曝光和自动增益评估所选区域。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIUseWhiteBalance_Tooltip</source>
+        <translation>自动白平衡评估所选区域。</translation>
+    </message>
+    <message>
+        <source>AutoFunctionROIWidth_Tooltip</source>
+        <translation>所选自动功能区域的宽度（像素）。</translation>
+    </message>
+    <message>
+        <source>AutoGainLowerLimit_Tooltip</source>
+        <translation>自动增益可选的最小增益。</translation>
+    </message>
+    <message>
+        <source>AutoGainUpperLimit_Tooltip</source>
+        <translation>自动增益可选的最大增益。</translation>
     </message>
     <message>
         <source>AutoTargetBrightness_Tooltip</source>
@@ -56,12 +132,40 @@
         <translation>合并为一个像素的相邻列数。</translation>
     </message>
     <message>
+        <source>BinningHorizontalMode_Tooltip</source>
+        <translation>合并列的方式：求和或求平均。</translation>
+    </message>
+    <message>
+        <source>BinningSelector_Tooltip</source>
+        <translation>选择在何处进行像素合并：传感器内或相机逻辑中。</translation>
+    </message>
+    <message>
         <source>BinningVertical_Tooltip</source>
         <translation>合并为一个像素的相邻行数。</translation>
     </message>
     <message>
+        <source>BinningVerticalMode_Tooltip</source>
+        <translation>合并行的方式：求和或求平均。</translation>
+    </message>
+    <message>
         <source>BlackLevel_Tooltip</source>
         <translation>加到每个像素值上的偏移量，用于提高或降低最暗的色调。</translation>
+    </message>
+    <message>
+        <source>BlackLevelAuto_Tooltip</source>
+        <translation>由相机自动调整黑电平。</translation>
+    </message>
+    <message>
+        <source>BlackLevelSelector_Tooltip</source>
+        <translation>选择由 BlackLevel 设置的黑电平。</translation>
+    </message>
+    <message>
+        <source>CenterX_Tooltip</source>
+        <translation>使图像区域水平居中，OffsetX 随之自动确定。</translation>
+    </message>
+    <message>
+        <source>CenterY_Tooltip</source>
+        <translation>使图像区域垂直居中，OffsetY 随之自动确定。</translation>
     </message>
     <message>
         <source>ChunkEnable_Tooltip</source>
@@ -80,6 +184,30 @@
         <translation>最后一幅图像的时间戳（来自其数据块）。</translation>
     </message>
     <message>
+        <source>ColorControls_Tooltip</source>
+        <translation>白平衡与颜色处理。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationControl_Tooltip</source>
+        <translation>颜色变换矩阵。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationEnable_Tooltip</source>
+        <translation>应用颜色变换矩阵。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationSelector_Tooltip</source>
+        <translation>选择下列功能所设置的颜色变换。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValue_Tooltip</source>
+        <translation>所选矩阵系数的值。</translation>
+    </message>
+    <message>
+        <source>ColorTransformationValueSelector_Tooltip</source>
+        <translation>选择矩阵中的一个系数。</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>所选计数器计数的信号。</translation>
     </message>
@@ -96,24 +224,156 @@
         <translation>所选计数器的当前计数值。</translation>
     </message>
     <message>
+        <source>DecimationHorizontal_Tooltip</source>
+        <translation>每 n 列只读出一列。</translation>
+    </message>
+    <message>
+        <source>DecimationVertical_Tooltip</source>
+        <translation>每 n 行只读出一行。</translation>
+    </message>
+    <message>
+        <source>DefectPixelCorrectionMode_Tooltip</source>
+        <translation>替换已知坏点像素的值。</translation>
+    </message>
+    <message>
+        <source>DemosaicingMode_Tooltip</source>
+        <translation>相机内由拜耳阵列计算全彩色的方法。</translation>
+    </message>
+    <message>
+        <source>DeviceCharacterSet_Tooltip</source>
+        <translation>相机中字符串所用的字符集。</translation>
+    </message>
+    <message>
+        <source>DeviceClockFrequency_Tooltip</source>
+        <translation>所选时钟的频率。</translation>
+    </message>
+    <message>
+        <source>DeviceClockSelector_Tooltip</source>
+        <translation>选择显示频率的时钟。</translation>
+    </message>
+    <message>
+        <source>DeviceControl_Tooltip</source>
+        <translation>相机的标识信息与常规设置。</translation>
+    </message>
+    <message>
+        <source>DeviceEventChannelCount_Tooltip</source>
+        <translation>相机的事件通道数量。</translation>
+    </message>
+    <message>
         <source>DeviceFamilyName_Tooltip</source>
         <translation>相机所属的产品系列。</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceEnd_Tooltip</source>
+        <translation>结束将功能值保存在相机中。</translation>
+    </message>
+    <message>
+        <source>DeviceFeaturePersistenceStart_Tooltip</source>
+        <translation>开始将当前功能值保存在相机中。</translation>
     </message>
     <message>
         <source>DeviceFirmwareVersion_Tooltip</source>
         <translation>相机固件的版本。</translation>
     </message>
     <message>
+        <source>DeviceGenCPVersionMajor_Tooltip</source>
+        <translation>相机控制协议的主版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceGenCPVersionMinor_Tooltip</source>
+        <translation>相机控制协议的次版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceID_Tooltip</source>
+        <translation>相机的旧标识符；请改用 DeviceSerialNumber。</translation>
+    </message>
+    <message>
+        <source>DeviceIndicatorMode_Tooltip</source>
+        <translation>相机状态指示灯显示的内容。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCommandTimeout_Tooltip</source>
+        <translation>相机应答命令的最长时间。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
+        <translation>超过此时间未收到心跳，相机即断开连接。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSelector_Tooltip</source>
+        <translation>选择要设置的相机链路。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkSpeed_Tooltip</source>
+        <translation>链路协商的速度（字节/秒）。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimit_Tooltip</source>
+        <translation>相机在链路上发送的最大数据速率（字节/秒）。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkThroughputLimitMode_Tooltip</source>
+        <translation>开启或关闭数据速率上限；开启后帧率可能下降。</translation>
+    </message>
+    <message>
+        <source>DeviceManifestEntrySelector_Tooltip</source>
+        <translation>选择要读取的描述文件列表条目。</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMajorVersion_Tooltip</source>
+        <translation>所选条目描述文件的主版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceManifestXMLMinorVersion_Tooltip</source>
+        <translation>所选条目描述文件的次版本号。</translation>
+    </message>
+    <message>
         <source>DeviceManufacturerInfo_Tooltip</source>
         <translation>相机制造商提供的附加信息。</translation>
+    </message>
+    <message>
+        <source>DeviceMaxThroughput_Tooltip</source>
+        <translation>相机可持续的最高数据速率（字节/秒）。</translation>
     </message>
     <message>
         <source>DeviceModelName_Tooltip</source>
         <translation>相机的型号名称。</translation>
     </message>
     <message>
+        <source>DeviceRegistersCheck_Tooltip</source>
+        <translation>检查寄存器设置是否一致。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersEndianness_Tooltip</source>
+        <translation>相机寄存器的字节序。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingEnd_Tooltip</source>
+        <translation>结束一系列寄存器写入，相机随后进行检查。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersStreamingStart_Tooltip</source>
+        <translation>让相机准备接收一系列寄存器写入。</translation>
+    </message>
+    <message>
+        <source>DeviceRegistersValid_Tooltip</source>
+        <translation>寄存器设置一致时为 1。</translation>
+    </message>
+    <message>
         <source>DeviceReset_Tooltip</source>
         <translation>重新启动相机。在相机恢复之前连接会中断。</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMajor_Tooltip</source>
+        <translation>相机遵循的功能命名标准的主版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionMinor_Tooltip</source>
+        <translation>相机遵循的功能命名标准的次版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceSFNCVersionSubMinor_Tooltip</source>
+        <translation>相机遵循的功能命名标准的修订版本号。</translation>
     </message>
     <message>
         <source>DeviceScanType_Tooltip</source>
@@ -124,8 +384,52 @@
         <translation>相机的序列号。</translation>
     </message>
     <message>
+        <source>DeviceStreamChannelCount_Tooltip</source>
+        <translation>相机的图像流通道数量。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelEndianness_Tooltip</source>
+        <translation>流中多字节像素数据的字节序。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelPacketSize_Tooltip</source>
+        <translation>所选流通道的数据包大小（字节）。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelSelector_Tooltip</source>
+        <translation>选择要设置的流通道。</translation>
+    </message>
+    <message>
+        <source>DeviceStreamChannelType_Tooltip</source>
+        <translation>所选流通道是发送还是接收。</translation>
+    </message>
+    <message>
+        <source>DeviceTLType_Tooltip</source>
+        <translation>相机连接所用的接口类型。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMajor_Tooltip</source>
+        <translation>相机传输协议的主版本号。</translation>
+    </message>
+    <message>
+        <source>DeviceTLVersionMinor_Tooltip</source>
+        <translation>相机传输协议的次版本号。</translation>
+    </message>
+    <message>
         <source>DeviceTemperature_Tooltip</source>
         <translation>相机内所选位置的温度（摄氏度）。</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureSelector_Tooltip</source>
+        <translation>选择显示温度的相机内部位置。</translation>
+    </message>
+    <message>
+        <source>DeviceTemperatureStatus_Tooltip</source>
+        <translation>相机温度是正常、偏高还是危险。</translation>
+    </message>
+    <message>
+        <source>DeviceType_Tooltip</source>
+        <translation>相机在链路上的角色，例如发送端。</translation>
     </message>
     <message>
         <source>DeviceUserID_Tooltip</source>
@@ -138,6 +442,14 @@
     <message>
         <source>DeviceVersion_Tooltip</source>
         <translation>相机的硬件版本。</translation>
+    </message>
+    <message>
+        <source>DigitalIO_Tooltip</source>
+        <translation>I/O 接口的信号线与用户输出。</translation>
+    </message>
+    <message>
+        <source>DigitalShift_Tooltip</source>
+        <translation>将像素值左移此位数，使图像更亮。</translation>
     </message>
     <message>
         <source>EncoderDivider_Tooltip</source>
@@ -416,6 +728,22 @@
         <translation>传感器为每幅图像采集光线的时间（微秒）。</translation>
     </message>
     <message>
+        <source>ExposureTimeBaseAbs_Tooltip</source>
+        <translation>旧曝光设置方式中 ExposureTimeRaw 的时间单位。</translation>
+    </message>
+    <message>
+        <source>ExposureTimeBaseAbsEnable_Tooltip</source>
+        <translation>旧的曝光设置方式：ExposureTimeRaw 乘以 ExposureTimeBaseAbs。</translation>
+    </message>
+    <message>
+        <source>ExposureTimeMode_Tooltip</source>
+        <translation>可用的曝光时间范围：标准或超短。</translation>
+    </message>
+    <message>
+        <source>ExposureTimeRaw_Tooltip</source>
+        <translation>旧方式的曝光时间（以 ExposureTimeBaseAbs 为单位）。</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>传感器信号的放大量。增益越高图像越亮，但噪声也越大。</translation>
     </message>
@@ -430,6 +758,14 @@
     <message>
         <source>Gamma_Tooltip</source>
         <translation>像素值的伽马校正。</translation>
+    </message>
+    <message>
+        <source>GammaEnable_Tooltip</source>
+        <translation>应用伽马校正。</translation>
+    </message>
+    <message>
+        <source>GammaSelector_Tooltip</source>
+        <translation>选择自定义伽马值或 sRGB 曲线。</translation>
     </message>
     <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
@@ -448,6 +784,22 @@
         <translation>相机发送的图像高度（像素）。</translation>
     </message>
     <message>
+        <source>Hue_Tooltip</source>
+        <translation>旋转色调。</translation>
+    </message>
+    <message>
+        <source>ImageFormatControl_Tooltip</source>
+        <translation>图像的尺寸、位置和格式。</translation>
+    </message>
+    <message>
+        <source>ImageQualityControl_Tooltip</source>
+        <translation>在相机内进行的校正。</translation>
+    </message>
+    <message>
+        <source>LUTControls_Tooltip</source>
+        <translation>映射像素值的查找表。</translation>
+    </message>
+    <message>
         <source>LUTEnable_Tooltip</source>
         <translation>将所选查找表应用于像素值。</translation>
     </message>
@@ -464,8 +816,28 @@
         <translation>LUTIndex 所选查找表条目的值。</translation>
     </message>
     <message>
+        <source>LUTValueAll_Tooltip</source>
+        <translation>所选查找表的全部条目（十六进制文本）。</translation>
+    </message>
+    <message>
+        <source>LightSourcePreset_Tooltip</source>
+        <translation>针对光源类型的颜色校正。</translation>
+    </message>
+    <message>
+        <source>LineDebouncerTime_Tooltip</source>
+        <translation>所选输入线上被视为信号的最短脉冲。</translation>
+    </message>
+    <message>
+        <source>LineFormat_Tooltip</source>
+        <translation>所选信号线的电气类型。</translation>
+    </message>
+    <message>
         <source>LineInverter_Tooltip</source>
         <translation>反转所选线的信号。</translation>
+    </message>
+    <message>
+        <source>LineMinimumOutputPulseWidth_Tooltip</source>
+        <translation>所选输出线上输出的最短脉冲。</translation>
     </message>
     <message>
         <source>LineMode_Tooltip</source>
@@ -488,6 +860,10 @@
         <translation>一次给出所有线的电平，每条线一位。</translation>
     </message>
     <message>
+        <source>NoiseReduction_Tooltip</source>
+        <translation>高质量去马赛克时应用的降噪。</translation>
+    </message>
+    <message>
         <source>OffsetX_Tooltip</source>
         <translation>图像区域在传感器上的水平位置（距左边缘的像素数）。</translation>
     </message>
@@ -496,8 +872,24 @@
         <translation>图像区域在传感器上的垂直位置（距上边缘的像素数）。</translation>
     </message>
     <message>
+        <source>PixelColorFilter_Tooltip</source>
+        <translation>传感器上的彩色滤光片阵列。</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMin_Tooltip</source>
+        <translation>当前像素格式下像素的最小可能值。</translation>
+    </message>
+    <message>
         <source>PixelFormat_Tooltip</source>
         <translation>相机发送图像的像素格式。</translation>
+    </message>
+    <message>
+        <source>PixelFormatLegacy_Tooltip</source>
+        <translation>在 PixelFormat 中提供旧的打包像素格式。</translation>
+    </message>
+    <message>
+        <source>PixelSize_Tooltip</source>
+        <translation>图像中每个像素的位数。</translation>
     </message>
     <message>
         <source>PtpEnable_Tooltip</source>
@@ -516,12 +908,72 @@
         <translation>上下镜像翻转图像。</translation>
     </message>
     <message>
+        <source>Root_Tooltip</source>
+        <translation>相机的全部功能。</translation>
+    </message>
+    <message>
+        <source>Saturation_Tooltip</source>
+        <translation>颜色的鲜艳程度。</translation>
+    </message>
+    <message>
+        <source>SensorDigitizationTaps_Tooltip</source>
+        <translation>传感器的数字化输出数量。</translation>
+    </message>
+    <message>
+        <source>SensorHeight_Tooltip</source>
+        <translation>传感器有效区域的高度（像素）。</translation>
+    </message>
+    <message>
+        <source>SensorName_Tooltip</source>
+        <translation>图像传感器的名称。</translation>
+    </message>
+    <message>
+        <source>SensorPixelHeight_Tooltip</source>
+        <translation>单个像素的物理高度（微米）。</translation>
+    </message>
+    <message>
+        <source>SensorPixelWidth_Tooltip</source>
+        <translation>单个像素的物理宽度（微米）。</translation>
+    </message>
+    <message>
+        <source>SensorReadoutMode_Tooltip</source>
+        <translation>快速读出可缩短读出时间，但噪声会增加。</translation>
+    </message>
+    <message>
+        <source>SensorShutterMode_Tooltip</source>
+        <translation>传感器的快门方式：全局或卷帘。</translation>
+    </message>
+    <message>
+        <source>SensorTaps_Tooltip</source>
+        <translation>传感器读出所用的抽头数。</translation>
+    </message>
+    <message>
+        <source>SensorWidth_Tooltip</source>
+        <translation>传感器有效区域的宽度（像素）。</translation>
+    </message>
+    <message>
+        <source>ShadingCorrectionMode_Tooltip</source>
+        <translation>校正照明不均和传感器暗角。</translation>
+    </message>
+    <message>
+        <source>SharpnessEnhancement_Tooltip</source>
+        <translation>高质量去马赛克时应用的锐化。</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>在所选软件信号上发出一个脉冲。</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>选择要发出脉冲的软件信号。</translation>
+    </message>
+    <message>
+        <source>TestPattern_Tooltip</source>
+        <translation>用测试图案代替传感器图像。</translation>
+    </message>
+    <message>
+        <source>TestPatternGeneratorSelector_Tooltip</source>
+        <translation>选择要设置的测试图案发生器。</translation>
     </message>
     <message>
         <source>TimerDelay_Tooltip</source>
@@ -540,6 +992,22 @@
         <translation>启动所选定时器的信号。</translation>
     </message>
     <message>
+        <source>Timestamp_Tooltip</source>
+        <translation>相机时间戳计数器的当前值（自通电起的纳秒数）。</translation>
+    </message>
+    <message>
+        <source>TimestampLatch_Tooltip</source>
+        <translation>将当前时间戳锁存到 TimestampLatchValue。</translation>
+    </message>
+    <message>
+        <source>TimestampLatchValue_Tooltip</source>
+        <translation>上次 TimestampLatch 锁存的时间戳。</translation>
+    </message>
+    <message>
+        <source>TimestampReset_Tooltip</source>
+        <translation>将时间戳计数器清零。</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>引起触发的信号边沿或电平。</translation>
     </message>
@@ -548,8 +1016,16 @@
         <translation>从触发到开始曝光的时间（微秒）。</translation>
     </message>
     <message>
+        <source>TriggerDivider_Tooltip</source>
+        <translation>每 n 个触发信号只使用一个。</translation>
+    </message>
+    <message>
         <source>TriggerMode_Tooltip</source>
         <translation>是否仅在收到触发信号时采集图像。</translation>
+    </message>
+    <message>
+        <source>TriggerOverlap_Tooltip</source>
+        <translation>在上一幅图像读出期间是否接受触发。</translation>
     </message>
     <message>
         <source>TriggerSelector_Tooltip</source>
@@ -570,6 +1046,14 @@
     <message>
         <source>UserOutputValue_Tooltip</source>
         <translation>所选用户输出的电平。</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAll_Tooltip</source>
+        <translation>所有用户输出的电平，每个输出一位。</translation>
+    </message>
+    <message>
+        <source>UserOutputValueAllMask_Tooltip</source>
+        <translation>UserOutputValueAll 中要写入的位。</translation>
     </message>
     <message>
         <source>UserSetDefault_Tooltip</source>
