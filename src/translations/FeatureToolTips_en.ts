@@ -52,8 +52,32 @@
         <translation>Stops taking images after the current image.</translation>
     </message>
     <message>
+        <source>ActionControl_Tooltip</source>
+        <translation>Action commands sent over the network.</translation>
+    </message>
+    <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>Key an action command must carry for the camera to act on it.</translation>
+    </message>
+    <message>
+        <source>ActionGroupKey_Tooltip</source>
+        <translation>Group key of the selected action.</translation>
+    </message>
+    <message>
+        <source>ActionGroupMask_Tooltip</source>
+        <translation>Group mask of the selected action.</translation>
+    </message>
+    <message>
+        <source>ActionQueueSize_Tooltip</source>
+        <translation>Number of scheduled action commands the camera can hold.</translation>
+    </message>
+    <message>
+        <source>ActionSelector_Tooltip</source>
+        <translation>Chooses the action to set up.</translation>
+    </message>
+    <message>
+        <source>ActionUnconditionalMode_Tooltip</source>
+        <translation>Takes action commands even when no application controls the camera.</translation>
     </message>
     <message>
         <source>AnalogControl_Tooltip</source>
@@ -168,20 +192,88 @@
         <translation>Keeps the image area centred vertically; OffsetY then follows by itself.</translation>
     </message>
     <message>
+        <source>ChunkCounterSelector_Tooltip</source>
+        <translation>Chooses which counter ChunkCounterValue shows.</translation>
+    </message>
+    <message>
+        <source>ChunkCounterValue_Tooltip</source>
+        <translation>Count of the selected counter when the last image was exposed.</translation>
+    </message>
+    <message>
+        <source>ChunkData_Tooltip</source>
+        <translation>Values read from the chunks of the last image.</translation>
+    </message>
+    <message>
+        <source>ChunkDataControl_Tooltip</source>
+        <translation>Data added to every image.</translation>
+    </message>
+    <message>
+        <source>ChunkDataStreams_Tooltip</source>
+        <translation>Stream values read from the chunks of the last image.</translation>
+    </message>
+    <message>
         <source>ChunkEnable_Tooltip</source>
         <translation>Puts the selected chunk into each image.</translation>
+    </message>
+    <message>
+        <source>ChunkExposureTime_Tooltip</source>
+        <translation>Exposure time of the last image, from its chunk.</translation>
+    </message>
+    <message>
+        <source>ChunkFrameID_Tooltip</source>
+        <translation>Number of the last image.</translation>
+    </message>
+    <message>
+        <source>ChunkGain_Tooltip</source>
+        <translation>Gain of the last image, from its chunk.</translation>
+    </message>
+    <message>
+        <source>ChunkGainSelector_Tooltip</source>
+        <translation>Chooses which gain ChunkGain shows.</translation>
+    </message>
+    <message>
+        <source>ChunkHeight_Tooltip</source>
+        <translation>Height of the last image, from its chunk.</translation>
+    </message>
+    <message>
+        <source>ChunkLineStatusAll_Tooltip</source>
+        <translation>Levels of all lines when the last image was exposed.</translation>
     </message>
     <message>
         <source>ChunkModeActive_Tooltip</source>
         <translation>Adds the enabled chunks of data to every image.</translation>
     </message>
     <message>
+        <source>ChunkOffsetX_Tooltip</source>
+        <translation>Horizontal position of the last image, from its chunk.</translation>
+    </message>
+    <message>
+        <source>ChunkOffsetY_Tooltip</source>
+        <translation>Vertical position of the last image, from its chunk.</translation>
+    </message>
+    <message>
+        <source>ChunkPayloadCRC16_Tooltip</source>
+        <translation>Checksum of the data of the last image.</translation>
+    </message>
+    <message>
+        <source>ChunkPixelFormat_Tooltip</source>
+        <translation>Pixel format of the last image, from its chunk.</translation>
+    </message>
+    <message>
         <source>ChunkSelector_Tooltip</source>
         <translation>Chooses the chunk to turn on or off.</translation>
     </message>
     <message>
+        <source>ChunkStride_Tooltip</source>
+        <translation>Bytes from the start of one line of the last image to the next.</translation>
+    </message>
+    <message>
         <source>ChunkTimestamp_Tooltip</source>
         <translation>Time stamp of the last image, from its chunk.</translation>
+    </message>
+    <message>
+        <source>ChunkWidth_Tooltip</source>
+        <translation>Width of the last image, from its chunk.</translation>
     </message>
     <message>
         <source>ColorControls_Tooltip</source>
@@ -208,6 +300,22 @@
         <translation>Chooses a coefficient of the matrix.</translation>
     </message>
     <message>
+        <source>CounterAndTimerControl_Tooltip</source>
+        <translation>Counters and timers.</translation>
+    </message>
+    <message>
+        <source>CounterControls_Tooltip</source>
+        <translation>Counters of events.</translation>
+    </message>
+    <message>
+        <source>CounterDuration_Tooltip</source>
+        <translation>Count at which the selected counter stops.</translation>
+    </message>
+    <message>
+        <source>CounterEventActivation_Tooltip</source>
+        <translation>Which edge of the counted signal adds one.</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>Signal whose events the selected counter counts.</translation>
     </message>
@@ -216,12 +324,28 @@
         <translation>Sets the selected counter back to zero.</translation>
     </message>
     <message>
+        <source>CounterResetActivation_Tooltip</source>
+        <translation>Which edge of the reset signal sets the counter back.</translation>
+    </message>
+    <message>
+        <source>CounterResetSource_Tooltip</source>
+        <translation>Signal that sets the selected counter back to zero.</translation>
+    </message>
+    <message>
         <source>CounterSelector_Tooltip</source>
         <translation>Chooses the counter to set up.</translation>
     </message>
     <message>
+        <source>CounterStatus_Tooltip</source>
+        <translation>State of the selected counter.</translation>
+    </message>
+    <message>
         <source>CounterValue_Tooltip</source>
         <translation>Present count of the selected counter.</translation>
+    </message>
+    <message>
+        <source>CounterValueAtReset_Tooltip</source>
+        <translation>Count of the selected counter when it was last reset.</translation>
     </message>
     <message>
         <source>DecimationHorizontal_Tooltip</source>
@@ -452,6 +576,10 @@
         <translation>Shifts the pixel values left by this many bits, making the image brighter.</translation>
     </message>
     <message>
+        <source>EncoderControl_Tooltip</source>
+        <translation>Input of a quadrature shaft encoder.</translation>
+    </message>
+    <message>
         <source>EncoderDivider_Tooltip</source>
         <translation>Counts only every n-th encoder step.</translation>
     </message>
@@ -466,6 +594,10 @@
     <message>
         <source>EncoderReset_Tooltip</source>
         <translation>Sets the encoder position back to zero.</translation>
+    </message>
+    <message>
+        <source>EncoderResetSource_Tooltip</source>
+        <translation>Signal that sets the encoder position back to zero.</translation>
     </message>
     <message>
         <source>EncoderSelector_Tooltip</source>
@@ -484,8 +616,16 @@
         <translation>Direction in which the encoder turns.</translation>
     </message>
     <message>
+        <source>EncoderTimeout_Tooltip</source>
+        <translation>Time without steps after which the encoder counts as standing still.</translation>
+    </message>
+    <message>
         <source>EncoderValue_Tooltip</source>
         <translation>Present position of the encoder.</translation>
+    </message>
+    <message>
+        <source>EncoderValueAtReset_Tooltip</source>
+        <translation>Encoder position when it was last reset.</translation>
     </message>
     <message>
         <source>EventAcquisitionEnd_Tooltip</source>
@@ -744,6 +884,58 @@
         <translation>Exposure time in units of ExposureTimeBaseAbs, the older way.</translation>
     </message>
     <message>
+        <source>FileAccess_Tooltip</source>
+        <translation>Files kept in the camera.</translation>
+    </message>
+    <message>
+        <source>FileAccessBuffer_Tooltip</source>
+        <translation>Data read from or to be written to the file.</translation>
+    </message>
+    <message>
+        <source>FileAccessControl_Tooltip</source>
+        <translation>Reading and writing files in the camera.</translation>
+    </message>
+    <message>
+        <source>FileAccessLength_Tooltip</source>
+        <translation>Number of bytes to read or write.</translation>
+    </message>
+    <message>
+        <source>FileAccessOffset_Tooltip</source>
+        <translation>Position in the file where the next read or write starts.</translation>
+    </message>
+    <message>
+        <source>FileOpenMode_Tooltip</source>
+        <translation>Whether the file is opened for reading, writing or both.</translation>
+    </message>
+    <message>
+        <source>FileOperationExecute_Tooltip</source>
+        <translation>Carries out the selected operation on the selected file.</translation>
+    </message>
+    <message>
+        <source>FileOperationResult_Tooltip</source>
+        <translation>Number of bytes moved by the last read or write.</translation>
+    </message>
+    <message>
+        <source>FileOperationSelector_Tooltip</source>
+        <translation>Chooses what FileOperationExecute does: open, read, write, close or delete.</translation>
+    </message>
+    <message>
+        <source>FileOperationStatus_Tooltip</source>
+        <translation>Whether the last file operation succeeded.</translation>
+    </message>
+    <message>
+        <source>FileSelector_Tooltip</source>
+        <translation>Chooses the file to work on.</translation>
+    </message>
+    <message>
+        <source>FileSize_Tooltip</source>
+        <translation>Size of the selected file, in bytes.</translation>
+    </message>
+    <message>
+        <source>FileStatus_Tooltip</source>
+        <translation>Whether the selected file is open.</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>Amplification of the sensor signal. More gain gives a brighter but noisier image.</translation>
     </message>
@@ -892,8 +1084,36 @@
         <translation>Number of bits in one pixel of the image.</translation>
     </message>
     <message>
+        <source>PtpClockAccuracy_Tooltip</source>
+        <translation>Accuracy the camera clock claims.</translation>
+    </message>
+    <message>
+        <source>PtpControl_Tooltip</source>
+        <translation>Clock synchronisation over the network (PTP).</translation>
+    </message>
+    <message>
+        <source>PtpDataSetLatch_Tooltip</source>
+        <translation>Copies the present synchronisation values for reading.</translation>
+    </message>
+    <message>
         <source>PtpEnable_Tooltip</source>
         <translation>Synchronises the camera clock with the network using PTP.</translation>
+    </message>
+    <message>
+        <source>PtpGrandmasterClockID_Tooltip</source>
+        <translation>Identity of the grandmaster clock at the last latch.</translation>
+    </message>
+    <message>
+        <source>PtpOffsetFromMaster_Tooltip</source>
+        <translation>How far the camera clock was from the master clock at the last latch.</translation>
+    </message>
+    <message>
+        <source>PtpParentClockID_Tooltip</source>
+        <translation>Identity of the parent clock at the last latch.</translation>
+    </message>
+    <message>
+        <source>PtpServoStatus_Tooltip</source>
+        <translation>Whether the camera clock follows the master clock.</translation>
     </message>
     <message>
         <source>PtpStatus_Tooltip</source>
@@ -960,12 +1180,20 @@
         <translation>Sharpening applied in high-quality demosaicing.</translation>
     </message>
     <message>
+        <source>SoftwareSignalControl_Tooltip</source>
+        <translation>Signals given by software.</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>Sends a pulse on the selected software signal.</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>Chooses the software signal to pulse.</translation>
+    </message>
+    <message>
+        <source>TestEventGenerate_Tooltip</source>
+        <translation>Makes the camera send a test event.</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -976,6 +1204,10 @@
         <translation>Chooses which test pattern generator is set.</translation>
     </message>
     <message>
+        <source>TimerControls_Tooltip</source>
+        <translation>Timers that give pulses on internal signals.</translation>
+    </message>
+    <message>
         <source>TimerDelay_Tooltip</source>
         <translation>Time from the start signal to the pulse of the selected timer, in microseconds.</translation>
     </message>
@@ -984,12 +1216,28 @@
         <translation>Length of the pulse of the selected timer, in microseconds.</translation>
     </message>
     <message>
+        <source>TimerReset_Tooltip</source>
+        <translation>Sets the selected timer back.</translation>
+    </message>
+    <message>
         <source>TimerSelector_Tooltip</source>
         <translation>Chooses the timer to set up.</translation>
     </message>
     <message>
+        <source>TimerStatus_Tooltip</source>
+        <translation>State of the selected timer.</translation>
+    </message>
+    <message>
+        <source>TimerTriggerActivation_Tooltip</source>
+        <translation>Which edge or level of the start signal starts the timer.</translation>
+    </message>
+    <message>
         <source>TimerTriggerSource_Tooltip</source>
         <translation>Signal that starts the selected timer.</translation>
+    </message>
+    <message>
+        <source>TimerValue_Tooltip</source>
+        <translation>Present value of the selected timer.</translation>
     </message>
     <message>
         <source>Timestamp_Tooltip</source>
@@ -1060,6 +1308,22 @@
         <translation>User set the camera loads when it is switched on.</translation>
     </message>
     <message>
+        <source>UserSetDefaultSelector_Tooltip</source>
+        <translation>Older name of UserSetDefault.</translation>
+    </message>
+    <message>
+        <source>UserSetFactoryDefaultLoaded_Tooltip</source>
+        <translation>True while the factory settings are active.</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureEnable_Tooltip</source>
+        <translation>Whether the selected feature is stored in the user sets.</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureSelector_Tooltip</source>
+        <translation>Chooses a feature to keep in or leave out of the user sets.</translation>
+    </message>
+    <message>
         <source>UserSetLoad_Tooltip</source>
         <translation>Loads the selected user set into the camera.</translation>
     </message>
@@ -1070,6 +1334,10 @@
     <message>
         <source>UserSetSelector_Tooltip</source>
         <translation>Chooses the user set to load or save.</translation>
+    </message>
+    <message>
+        <source>UserSets_Tooltip</source>
+        <translation>Storing and restoring camera settings.</translation>
     </message>
     <message>
         <source>Width_Tooltip</source>

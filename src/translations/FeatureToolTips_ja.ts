@@ -52,8 +52,32 @@
         <translation>現在の画像の後で撮像を停止します。</translation>
     </message>
     <message>
+        <source>ActionControl_Tooltip</source>
+        <translation>ネットワーク経由のアクションコマンド。</translation>
+    </message>
+    <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>カメラがアクションコマンドを受け付けるためのキー。</translation>
+    </message>
+    <message>
+        <source>ActionGroupKey_Tooltip</source>
+        <translation>選んだアクションのグループキー。</translation>
+    </message>
+    <message>
+        <source>ActionGroupMask_Tooltip</source>
+        <translation>選んだアクションのグループマスク。</translation>
+    </message>
+    <message>
+        <source>ActionQueueSize_Tooltip</source>
+        <translation>カメラが保持できる予約済みアクションコマンドの数。</translation>
+    </message>
+    <message>
+        <source>ActionSelector_Tooltip</source>
+        <translation>設定するアクションを選びます。</translation>
+    </message>
+    <message>
+        <source>ActionUnconditionalMode_Tooltip</source>
+        <translation>どのアプリケーションも制御していないときでもアクションコマンドを受け付けます。</translation>
     </message>
     <message>
         <source>AnalogControl_Tooltip</source>
@@ -168,20 +192,88 @@
         <translation>画像領域を垂直方向の中央に保ちます。OffsetY は自動で決まります。</translation>
     </message>
     <message>
+        <source>ChunkCounterSelector_Tooltip</source>
+        <translation>ChunkCounterValue に表示するカウンターを選びます。</translation>
+    </message>
+    <message>
+        <source>ChunkCounterValue_Tooltip</source>
+        <translation>最後の画像を露光したときの選んだカウンターの値。</translation>
+    </message>
+    <message>
+        <source>ChunkData_Tooltip</source>
+        <translation>最後の画像のチャンクから読んだ値。</translation>
+    </message>
+    <message>
+        <source>ChunkDataControl_Tooltip</source>
+        <translation>各画像に付けるデータ。</translation>
+    </message>
+    <message>
+        <source>ChunkDataStreams_Tooltip</source>
+        <translation>最後の画像のチャンクから読んだストリームの値。</translation>
+    </message>
+    <message>
         <source>ChunkEnable_Tooltip</source>
         <translation>選んだチャンクを各画像に入れます。</translation>
+    </message>
+    <message>
+        <source>ChunkExposureTime_Tooltip</source>
+        <translation>最後の画像の露光時間 (チャンクから)。</translation>
+    </message>
+    <message>
+        <source>ChunkFrameID_Tooltip</source>
+        <translation>最後の画像の番号。</translation>
+    </message>
+    <message>
+        <source>ChunkGain_Tooltip</source>
+        <translation>最後の画像のゲイン (チャンクから)。</translation>
+    </message>
+    <message>
+        <source>ChunkGainSelector_Tooltip</source>
+        <translation>ChunkGain に表示するゲインを選びます。</translation>
+    </message>
+    <message>
+        <source>ChunkHeight_Tooltip</source>
+        <translation>最後の画像の高さ (チャンクから)。</translation>
+    </message>
+    <message>
+        <source>ChunkLineStatusAll_Tooltip</source>
+        <translation>最後の画像を露光したときの全ラインのレベル。</translation>
     </message>
     <message>
         <source>ChunkModeActive_Tooltip</source>
         <translation>有効にしたチャンクデータを各画像に付けます。</translation>
     </message>
     <message>
+        <source>ChunkOffsetX_Tooltip</source>
+        <translation>最後の画像の水平位置 (チャンクから)。</translation>
+    </message>
+    <message>
+        <source>ChunkOffsetY_Tooltip</source>
+        <translation>最後の画像の垂直位置 (チャンクから)。</translation>
+    </message>
+    <message>
+        <source>ChunkPayloadCRC16_Tooltip</source>
+        <translation>最後の画像のデータのチェックサム。</translation>
+    </message>
+    <message>
+        <source>ChunkPixelFormat_Tooltip</source>
+        <translation>最後の画像の画素フォーマット (チャンクから)。</translation>
+    </message>
+    <message>
         <source>ChunkSelector_Tooltip</source>
         <translation>オンまたはオフにするチャンクを選びます。</translation>
     </message>
     <message>
+        <source>ChunkStride_Tooltip</source>
+        <translation>最後の画像の 1 ラインの先頭から次のラインまでのバイト数。</translation>
+    </message>
+    <message>
         <source>ChunkTimestamp_Tooltip</source>
         <translation>最後の画像のタイムスタンプ (チャンクから)。</translation>
+    </message>
+    <message>
+        <source>ChunkWidth_Tooltip</source>
+        <translation>最後の画像の幅 (チャンクから)。</translation>
     </message>
     <message>
         <source>ColorControls_Tooltip</source>
@@ -208,6 +300,22 @@
         <translation>マトリクスの係数を選びます。</translation>
     </message>
     <message>
+        <source>CounterAndTimerControl_Tooltip</source>
+        <translation>カウンターとタイマー。</translation>
+    </message>
+    <message>
+        <source>CounterControls_Tooltip</source>
+        <translation>イベントのカウンター。</translation>
+    </message>
+    <message>
+        <source>CounterDuration_Tooltip</source>
+        <translation>選んだカウンターが止まる値。</translation>
+    </message>
+    <message>
+        <source>CounterEventActivation_Tooltip</source>
+        <translation>数える信号のどのエッジで 1 増やすか。</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>選んだカウンターが数える信号。</translation>
     </message>
@@ -216,12 +324,28 @@
         <translation>選んだカウンターを 0 に戻します。</translation>
     </message>
     <message>
+        <source>CounterResetActivation_Tooltip</source>
+        <translation>リセット信号のどのエッジでカウンターを戻すか。</translation>
+    </message>
+    <message>
+        <source>CounterResetSource_Tooltip</source>
+        <translation>選んだカウンターを 0 に戻す信号。</translation>
+    </message>
+    <message>
         <source>CounterSelector_Tooltip</source>
         <translation>設定するカウンターを選びます。</translation>
     </message>
     <message>
+        <source>CounterStatus_Tooltip</source>
+        <translation>選んだカウンターの状態。</translation>
+    </message>
+    <message>
         <source>CounterValue_Tooltip</source>
         <translation>選んだカウンターの現在値。</translation>
+    </message>
+    <message>
+        <source>CounterValueAtReset_Tooltip</source>
+        <translation>最後にリセットしたときの選んだカウンターの値。</translation>
     </message>
     <message>
         <source>DecimationHorizontal_Tooltip</source>
@@ -452,6 +576,10 @@
         <translation>画素値をこのビット数だけ左へシフトし、画像を明るくします。</translation>
     </message>
     <message>
+        <source>EncoderControl_Tooltip</source>
+        <translation>2 相ロータリーエンコーダーの入力。</translation>
+    </message>
+    <message>
         <source>EncoderDivider_Tooltip</source>
         <translation>エンコーダーのステップを n 回ごとに 1 回だけ数えます。</translation>
     </message>
@@ -466,6 +594,10 @@
     <message>
         <source>EncoderReset_Tooltip</source>
         <translation>エンコーダーの位置を 0 に戻します。</translation>
+    </message>
+    <message>
+        <source>EncoderResetSource_Tooltip</source>
+        <translation>エンコーダーの位置を 0 に戻す信号。</translation>
     </message>
     <message>
         <source>EncoderSelector_Tooltip</source>
@@ -484,8 +616,16 @@
         <translation>エンコーダーの回転方向。</translation>
     </message>
     <message>
+        <source>EncoderTimeout_Tooltip</source>
+        <translation>ステップがないまま経過すると、エンコーダーが停止中とみなされる時間。</translation>
+    </message>
+    <message>
         <source>EncoderValue_Tooltip</source>
         <translation>エンコーダーの現在位置。</translation>
+    </message>
+    <message>
+        <source>EncoderValueAtReset_Tooltip</source>
+        <translation>最後にリセットしたときのエンコーダーの位置。</translation>
     </message>
     <message>
         <source>EventAcquisitionEnd_Tooltip</source>
@@ -744,6 +884,58 @@
         <translation>旧方式の露光時間 (ExposureTimeBaseAbs 単位)。</translation>
     </message>
     <message>
+        <source>FileAccess_Tooltip</source>
+        <translation>カメラ内に保存されたファイル。</translation>
+    </message>
+    <message>
+        <source>FileAccessBuffer_Tooltip</source>
+        <translation>ファイルから読んだデータ、または書き込むデータ。</translation>
+    </message>
+    <message>
+        <source>FileAccessControl_Tooltip</source>
+        <translation>カメラ内のファイルの読み書き。</translation>
+    </message>
+    <message>
+        <source>FileAccessLength_Tooltip</source>
+        <translation>読み書きするバイト数。</translation>
+    </message>
+    <message>
+        <source>FileAccessOffset_Tooltip</source>
+        <translation>次の読み書きを始めるファイル内の位置。</translation>
+    </message>
+    <message>
+        <source>FileOpenMode_Tooltip</source>
+        <translation>ファイルを読み取り、書き込み、またはその両方で開くか。</translation>
+    </message>
+    <message>
+        <source>FileOperationExecute_Tooltip</source>
+        <translation>選んだファイルに選んだ操作を実行します。</translation>
+    </message>
+    <message>
+        <source>FileOperationResult_Tooltip</source>
+        <translation>最後の読み書きで転送したバイト数。</translation>
+    </message>
+    <message>
+        <source>FileOperationSelector_Tooltip</source>
+        <translation>FileOperationExecute で行う操作 (開く、読む、書く、閉じる、削除) を選びます。</translation>
+    </message>
+    <message>
+        <source>FileOperationStatus_Tooltip</source>
+        <translation>最後のファイル操作が成功したかどうか。</translation>
+    </message>
+    <message>
+        <source>FileSelector_Tooltip</source>
+        <translation>操作するファイルを選びます。</translation>
+    </message>
+    <message>
+        <source>FileSize_Tooltip</source>
+        <translation>選んだファイルのサイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>FileStatus_Tooltip</source>
+        <translation>選んだファイルが開いているかどうか。</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>センサー信号の増幅率。上げると画像は明るくなりますがノイズも増えます。</translation>
     </message>
@@ -892,8 +1084,36 @@
         <translation>画像の 1 画素のビット数。</translation>
     </message>
     <message>
+        <source>PtpClockAccuracy_Tooltip</source>
+        <translation>カメラの時計が示す精度。</translation>
+    </message>
+    <message>
+        <source>PtpControl_Tooltip</source>
+        <translation>ネットワーク経由の時計同期 (PTP)。</translation>
+    </message>
+    <message>
+        <source>PtpDataSetLatch_Tooltip</source>
+        <translation>現在の同期値を読み出し用に保持します。</translation>
+    </message>
+    <message>
         <source>PtpEnable_Tooltip</source>
         <translation>PTP でカメラの時計をネットワークに同期させます。</translation>
+    </message>
+    <message>
+        <source>PtpGrandmasterClockID_Tooltip</source>
+        <translation>最後に保持したときのグランドマスタークロックの ID。</translation>
+    </message>
+    <message>
+        <source>PtpOffsetFromMaster_Tooltip</source>
+        <translation>最後に保持したときの、マスタークロックに対するカメラ時計のずれ。</translation>
+    </message>
+    <message>
+        <source>PtpParentClockID_Tooltip</source>
+        <translation>最後に保持したときの親クロックの ID。</translation>
+    </message>
+    <message>
+        <source>PtpServoStatus_Tooltip</source>
+        <translation>カメラの時計がマスタークロックに追従しているか。</translation>
     </message>
     <message>
         <source>PtpStatus_Tooltip</source>
@@ -960,12 +1180,20 @@
         <translation>高画質デモザイク時にかけるシャープ処理。</translation>
     </message>
     <message>
+        <source>SoftwareSignalControl_Tooltip</source>
+        <translation>ソフトウェアから出す信号。</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>選んだソフトウェア信号にパルスを出します。</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>パルスを出すソフトウェア信号を選びます。</translation>
+    </message>
+    <message>
+        <source>TestEventGenerate_Tooltip</source>
+        <translation>カメラにテストイベントを送らせます。</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -976,6 +1204,10 @@
         <translation>設定するテストパターン生成器を選びます。</translation>
     </message>
     <message>
+        <source>TimerControls_Tooltip</source>
+        <translation>内部信号にパルスを出すタイマー。</translation>
+    </message>
+    <message>
         <source>TimerDelay_Tooltip</source>
         <translation>開始信号から選んだタイマーのパルスまでの時間 (マイクロ秒)。</translation>
     </message>
@@ -984,12 +1216,28 @@
         <translation>選んだタイマーのパルス幅 (マイクロ秒)。</translation>
     </message>
     <message>
+        <source>TimerReset_Tooltip</source>
+        <translation>選んだタイマーをリセットします。</translation>
+    </message>
+    <message>
         <source>TimerSelector_Tooltip</source>
         <translation>設定するタイマーを選びます。</translation>
     </message>
     <message>
+        <source>TimerStatus_Tooltip</source>
+        <translation>選んだタイマーの状態。</translation>
+    </message>
+    <message>
+        <source>TimerTriggerActivation_Tooltip</source>
+        <translation>開始信号のどのエッジまたはレベルでタイマーを開始するか。</translation>
+    </message>
+    <message>
         <source>TimerTriggerSource_Tooltip</source>
         <translation>選んだタイマーを開始させる信号。</translation>
+    </message>
+    <message>
+        <source>TimerValue_Tooltip</source>
+        <translation>選んだタイマーの現在値。</translation>
     </message>
     <message>
         <source>Timestamp_Tooltip</source>
@@ -1060,6 +1308,22 @@
         <translation>電源投入時にカメラが読み込むユーザーセット。</translation>
     </message>
     <message>
+        <source>UserSetDefaultSelector_Tooltip</source>
+        <translation>UserSetDefault の旧名称。</translation>
+    </message>
+    <message>
+        <source>UserSetFactoryDefaultLoaded_Tooltip</source>
+        <translation>工場出荷時の設定が有効な間は真。</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureEnable_Tooltip</source>
+        <translation>選んだ機能をユーザーセットに保存するかどうか。</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureSelector_Tooltip</source>
+        <translation>ユーザーセットに含めるか除外する機能を選びます。</translation>
+    </message>
+    <message>
         <source>UserSetLoad_Tooltip</source>
         <translation>選んだユーザーセットをカメラに読み込みます。</translation>
     </message>
@@ -1070,6 +1334,10 @@
     <message>
         <source>UserSetSelector_Tooltip</source>
         <translation>読み込みまたは保存するユーザーセットを選びます。</translation>
+    </message>
+    <message>
+        <source>UserSets_Tooltip</source>
+        <translation>カメラ設定の保存と復元。</translation>
     </message>
     <message>
         <source>Width_Tooltip</source>

@@ -52,8 +52,32 @@
         <translation>현재 이미지 다음에 촬영을 멈춥니다.</translation>
     </message>
     <message>
+        <source>ActionControl_Tooltip</source>
+        <translation>네트워크로 보내는 액션 명령입니다.</translation>
+    </message>
+    <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>카메라가 액션 명령을 받아들이기 위한 키입니다.</translation>
+    </message>
+    <message>
+        <source>ActionGroupKey_Tooltip</source>
+        <translation>선택한 액션의 그룹 키입니다.</translation>
+    </message>
+    <message>
+        <source>ActionGroupMask_Tooltip</source>
+        <translation>선택한 액션의 그룹 마스크입니다.</translation>
+    </message>
+    <message>
+        <source>ActionQueueSize_Tooltip</source>
+        <translation>카메라가 보관할 수 있는 예약된 액션 명령 수입니다.</translation>
+    </message>
+    <message>
+        <source>ActionSelector_Tooltip</source>
+        <translation>설정할 액션을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>ActionUnconditionalMode_Tooltip</source>
+        <translation>어떤 애플리케이션도 제어하지 않을 때도 액션 명령을 받습니다.</translation>
     </message>
     <message>
         <source>AnalogControl_Tooltip</source>
@@ -168,20 +192,88 @@
         <translation>이미지 영역을 세로 가운데에 둡니다. 그러면 OffsetY는 자동으로 정해집니다.</translation>
     </message>
     <message>
+        <source>ChunkCounterSelector_Tooltip</source>
+        <translation>ChunkCounterValue가 보여 줄 카운터를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>ChunkCounterValue_Tooltip</source>
+        <translation>마지막 이미지를 노출할 때 선택한 카운터의 값입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkData_Tooltip</source>
+        <translation>마지막 이미지의 청크에서 읽은 값입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkDataControl_Tooltip</source>
+        <translation>모든 이미지에 붙이는 데이터입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkDataStreams_Tooltip</source>
+        <translation>마지막 이미지의 청크에서 읽은 스트림 값입니다.</translation>
+    </message>
+    <message>
         <source>ChunkEnable_Tooltip</source>
         <translation>선택한 청크를 각 이미지에 넣습니다.</translation>
+    </message>
+    <message>
+        <source>ChunkExposureTime_Tooltip</source>
+        <translation>마지막 이미지의 노출 시간(청크에서)입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkFrameID_Tooltip</source>
+        <translation>마지막 이미지의 번호입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkGain_Tooltip</source>
+        <translation>마지막 이미지의 게인(청크에서)입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkGainSelector_Tooltip</source>
+        <translation>ChunkGain이 보여 줄 게인을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>ChunkHeight_Tooltip</source>
+        <translation>마지막 이미지의 높이(청크에서)입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkLineStatusAll_Tooltip</source>
+        <translation>마지막 이미지를 노출할 때 모든 라인의 레벨입니다.</translation>
     </message>
     <message>
         <source>ChunkModeActive_Tooltip</source>
         <translation>활성화한 청크 데이터를 모든 이미지에 붙입니다.</translation>
     </message>
     <message>
+        <source>ChunkOffsetX_Tooltip</source>
+        <translation>마지막 이미지의 가로 위치(청크에서)입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkOffsetY_Tooltip</source>
+        <translation>마지막 이미지의 세로 위치(청크에서)입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkPayloadCRC16_Tooltip</source>
+        <translation>마지막 이미지 데이터의 체크섬입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkPixelFormat_Tooltip</source>
+        <translation>마지막 이미지의 픽셀 형식(청크에서)입니다.</translation>
+    </message>
+    <message>
         <source>ChunkSelector_Tooltip</source>
         <translation>켜거나 끌 청크를 선택합니다.</translation>
     </message>
     <message>
+        <source>ChunkStride_Tooltip</source>
+        <translation>마지막 이미지에서 한 라인의 시작부터 다음 라인까지의 바이트 수입니다.</translation>
+    </message>
+    <message>
         <source>ChunkTimestamp_Tooltip</source>
         <translation>마지막 이미지의 타임스탬프(청크에서)입니다.</translation>
+    </message>
+    <message>
+        <source>ChunkWidth_Tooltip</source>
+        <translation>마지막 이미지의 너비(청크에서)입니다.</translation>
     </message>
     <message>
         <source>ColorControls_Tooltip</source>
@@ -208,6 +300,22 @@
         <translation>행렬의 계수를 선택합니다.</translation>
     </message>
     <message>
+        <source>CounterAndTimerControl_Tooltip</source>
+        <translation>카운터와 타이머입니다.</translation>
+    </message>
+    <message>
+        <source>CounterControls_Tooltip</source>
+        <translation>이벤트 카운터입니다.</translation>
+    </message>
+    <message>
+        <source>CounterDuration_Tooltip</source>
+        <translation>선택한 카운터가 멈추는 값입니다.</translation>
+    </message>
+    <message>
+        <source>CounterEventActivation_Tooltip</source>
+        <translation>세는 신호의 어느 에지에서 1을 더할지입니다.</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>선택한 카운터가 세는 신호입니다.</translation>
     </message>
@@ -216,12 +324,28 @@
         <translation>선택한 카운터를 0으로 되돌립니다.</translation>
     </message>
     <message>
+        <source>CounterResetActivation_Tooltip</source>
+        <translation>리셋 신호의 어느 에지에서 카운터를 되돌릴지입니다.</translation>
+    </message>
+    <message>
+        <source>CounterResetSource_Tooltip</source>
+        <translation>선택한 카운터를 0으로 되돌리는 신호입니다.</translation>
+    </message>
+    <message>
         <source>CounterSelector_Tooltip</source>
         <translation>설정할 카운터를 선택합니다.</translation>
     </message>
     <message>
+        <source>CounterStatus_Tooltip</source>
+        <translation>선택한 카운터의 상태입니다.</translation>
+    </message>
+    <message>
         <source>CounterValue_Tooltip</source>
         <translation>선택한 카운터의 현재 값입니다.</translation>
+    </message>
+    <message>
+        <source>CounterValueAtReset_Tooltip</source>
+        <translation>마지막으로 리셋했을 때 선택한 카운터의 값입니다.</translation>
     </message>
     <message>
         <source>DecimationHorizontal_Tooltip</source>
@@ -452,6 +576,10 @@
         <translation>픽셀 값을 이 비트 수만큼 왼쪽으로 밀어 이미지를 밝게 합니다.</translation>
     </message>
     <message>
+        <source>EncoderControl_Tooltip</source>
+        <translation>2상 로터리 엔코더 입력입니다.</translation>
+    </message>
+    <message>
         <source>EncoderDivider_Tooltip</source>
         <translation>엔코더 스텝을 n번마다 한 번만 셉니다.</translation>
     </message>
@@ -466,6 +594,10 @@
     <message>
         <source>EncoderReset_Tooltip</source>
         <translation>엔코더 위치를 0으로 되돌립니다.</translation>
+    </message>
+    <message>
+        <source>EncoderResetSource_Tooltip</source>
+        <translation>엔코더 위치를 0으로 되돌리는 신호입니다.</translation>
     </message>
     <message>
         <source>EncoderSelector_Tooltip</source>
@@ -484,8 +616,16 @@
         <translation>엔코더가 도는 방향입니다.</translation>
     </message>
     <message>
+        <source>EncoderTimeout_Tooltip</source>
+        <translation>스텝 없이 이 시간이 지나면 엔코더가 멈춘 것으로 봅니다.</translation>
+    </message>
+    <message>
         <source>EncoderValue_Tooltip</source>
         <translation>엔코더의 현재 위치입니다.</translation>
+    </message>
+    <message>
+        <source>EncoderValueAtReset_Tooltip</source>
+        <translation>마지막으로 리셋했을 때 엔코더의 위치입니다.</translation>
     </message>
     <message>
         <source>EventAcquisitionEnd_Tooltip</source>
@@ -744,6 +884,58 @@
         <translation>예전 방식의 노출 시간(ExposureTimeBaseAbs 단위)입니다.</translation>
     </message>
     <message>
+        <source>FileAccess_Tooltip</source>
+        <translation>카메라에 저장된 파일입니다.</translation>
+    </message>
+    <message>
+        <source>FileAccessBuffer_Tooltip</source>
+        <translation>파일에서 읽었거나 파일에 쓸 데이터입니다.</translation>
+    </message>
+    <message>
+        <source>FileAccessControl_Tooltip</source>
+        <translation>카메라 안 파일의 읽기와 쓰기입니다.</translation>
+    </message>
+    <message>
+        <source>FileAccessLength_Tooltip</source>
+        <translation>읽거나 쓸 바이트 수입니다.</translation>
+    </message>
+    <message>
+        <source>FileAccessOffset_Tooltip</source>
+        <translation>다음 읽기 또는 쓰기를 시작할 파일 안의 위치입니다.</translation>
+    </message>
+    <message>
+        <source>FileOpenMode_Tooltip</source>
+        <translation>파일을 읽기, 쓰기 또는 둘 다로 열지입니다.</translation>
+    </message>
+    <message>
+        <source>FileOperationExecute_Tooltip</source>
+        <translation>선택한 파일에 선택한 작업을 실행합니다.</translation>
+    </message>
+    <message>
+        <source>FileOperationResult_Tooltip</source>
+        <translation>마지막 읽기 또는 쓰기로 옮긴 바이트 수입니다.</translation>
+    </message>
+    <message>
+        <source>FileOperationSelector_Tooltip</source>
+        <translation>FileOperationExecute가 할 작업(열기, 읽기, 쓰기, 닫기, 삭제)을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>FileOperationStatus_Tooltip</source>
+        <translation>마지막 파일 작업이 성공했는지입니다.</translation>
+    </message>
+    <message>
+        <source>FileSelector_Tooltip</source>
+        <translation>작업할 파일을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>FileSize_Tooltip</source>
+        <translation>선택한 파일의 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>FileStatus_Tooltip</source>
+        <translation>선택한 파일이 열려 있는지입니다.</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>센서 신호의 증폭량입니다. 높이면 이미지가 밝아지지만 노이즈도 늘어납니다.</translation>
     </message>
@@ -892,8 +1084,36 @@
         <translation>이미지 픽셀 하나의 비트 수입니다.</translation>
     </message>
     <message>
+        <source>PtpClockAccuracy_Tooltip</source>
+        <translation>카메라 시계가 밝히는 정확도입니다.</translation>
+    </message>
+    <message>
+        <source>PtpControl_Tooltip</source>
+        <translation>네트워크를 통한 시계 동기화(PTP)입니다.</translation>
+    </message>
+    <message>
+        <source>PtpDataSetLatch_Tooltip</source>
+        <translation>현재 동기화 값을 읽을 수 있게 복사합니다.</translation>
+    </message>
+    <message>
         <source>PtpEnable_Tooltip</source>
         <translation>PTP로 카메라 시계를 네트워크에 동기화합니다.</translation>
+    </message>
+    <message>
+        <source>PtpGrandmasterClockID_Tooltip</source>
+        <translation>마지막으로 복사했을 때 그랜드마스터 시계의 ID입니다.</translation>
+    </message>
+    <message>
+        <source>PtpOffsetFromMaster_Tooltip</source>
+        <translation>마지막으로 복사했을 때 마스터 시계와 카메라 시계의 차이입니다.</translation>
+    </message>
+    <message>
+        <source>PtpParentClockID_Tooltip</source>
+        <translation>마지막으로 복사했을 때 상위 시계의 ID입니다.</translation>
+    </message>
+    <message>
+        <source>PtpServoStatus_Tooltip</source>
+        <translation>카메라 시계가 마스터 시계를 따르는지입니다.</translation>
     </message>
     <message>
         <source>PtpStatus_Tooltip</source>
@@ -960,12 +1180,20 @@
         <translation>고화질 디모자이크 때 적용하는 선명도 향상입니다.</translation>
     </message>
     <message>
+        <source>SoftwareSignalControl_Tooltip</source>
+        <translation>소프트웨어가 내는 신호입니다.</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>선택한 소프트웨어 신호에 펄스를 보냅니다.</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>펄스를 낼 소프트웨어 신호를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>TestEventGenerate_Tooltip</source>
+        <translation>카메라가 테스트 이벤트를 보내게 합니다.</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -976,6 +1204,10 @@
         <translation>설정할 테스트 패턴 생성기를 선택합니다.</translation>
     </message>
     <message>
+        <source>TimerControls_Tooltip</source>
+        <translation>내부 신호에 펄스를 내는 타이머입니다.</translation>
+    </message>
+    <message>
         <source>TimerDelay_Tooltip</source>
         <translation>시작 신호부터 선택한 타이머의 펄스까지의 시간(마이크로초)입니다.</translation>
     </message>
@@ -984,12 +1216,28 @@
         <translation>선택한 타이머의 펄스 길이(마이크로초)입니다.</translation>
     </message>
     <message>
+        <source>TimerReset_Tooltip</source>
+        <translation>선택한 타이머를 리셋합니다.</translation>
+    </message>
+    <message>
         <source>TimerSelector_Tooltip</source>
         <translation>설정할 타이머를 선택합니다.</translation>
     </message>
     <message>
+        <source>TimerStatus_Tooltip</source>
+        <translation>선택한 타이머의 상태입니다.</translation>
+    </message>
+    <message>
+        <source>TimerTriggerActivation_Tooltip</source>
+        <translation>시작 신호의 어느 에지 또는 레벨에서 타이머를 시작할지입니다.</translation>
+    </message>
+    <message>
         <source>TimerTriggerSource_Tooltip</source>
         <translation>선택한 타이머를 시작시키는 신호입니다.</translation>
+    </message>
+    <message>
+        <source>TimerValue_Tooltip</source>
+        <translation>선택한 타이머의 현재 값입니다.</translation>
     </message>
     <message>
         <source>Timestamp_Tooltip</source>
@@ -1060,6 +1308,22 @@
         <translation>전원을 켤 때 카메라가 불러오는 사용자 세트입니다.</translation>
     </message>
     <message>
+        <source>UserSetDefaultSelector_Tooltip</source>
+        <translation>UserSetDefault의 예전 이름입니다.</translation>
+    </message>
+    <message>
+        <source>UserSetFactoryDefaultLoaded_Tooltip</source>
+        <translation>공장 설정이 활성인 동안 참입니다.</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureEnable_Tooltip</source>
+        <translation>선택한 기능을 사용자 세트에 저장할지 여부입니다.</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureSelector_Tooltip</source>
+        <translation>사용자 세트에 넣거나 뺄 기능을 선택합니다.</translation>
+    </message>
+    <message>
         <source>UserSetLoad_Tooltip</source>
         <translation>선택한 사용자 세트를 카메라에 불러옵니다.</translation>
     </message>
@@ -1070,6 +1334,10 @@
     <message>
         <source>UserSetSelector_Tooltip</source>
         <translation>불러오거나 저장할 사용자 세트를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>UserSets_Tooltip</source>
+        <translation>카메라 설정의 저장과 복원입니다.</translation>
     </message>
     <message>
         <source>Width_Tooltip</source>

@@ -52,8 +52,32 @@
         <translation>在当前图像之后停止采集。</translation>
     </message>
     <message>
+        <source>ActionControl_Tooltip</source>
+        <translation>通过网络发送的动作命令。</translation>
+    </message>
+    <message>
         <source>ActionDeviceKey_Tooltip</source>
         <translation>相机接受动作命令所需的密钥。</translation>
+    </message>
+    <message>
+        <source>ActionGroupKey_Tooltip</source>
+        <translation>所选动作的组密钥。</translation>
+    </message>
+    <message>
+        <source>ActionGroupMask_Tooltip</source>
+        <translation>所选动作的组掩码。</translation>
+    </message>
+    <message>
+        <source>ActionQueueSize_Tooltip</source>
+        <translation>相机可保存的预定动作命令数量。</translation>
+    </message>
+    <message>
+        <source>ActionSelector_Tooltip</source>
+        <translation>选择要设置的动作。</translation>
+    </message>
+    <message>
+        <source>ActionUnconditionalMode_Tooltip</source>
+        <translation>即使没有应用程序控制相机，也接受动作命令。</translation>
     </message>
     <message>
         <source>AnalogControl_Tooltip</source>
@@ -168,20 +192,88 @@
         <translation>使图像区域垂直居中，OffsetY 随之自动确定。</translation>
     </message>
     <message>
+        <source>ChunkCounterSelector_Tooltip</source>
+        <translation>选择 ChunkCounterValue 显示的计数器。</translation>
+    </message>
+    <message>
+        <source>ChunkCounterValue_Tooltip</source>
+        <translation>最后一幅图像曝光时所选计数器的值。</translation>
+    </message>
+    <message>
+        <source>ChunkData_Tooltip</source>
+        <translation>从最后一幅图像的数据块中读取的值。</translation>
+    </message>
+    <message>
+        <source>ChunkDataControl_Tooltip</source>
+        <translation>附加到每幅图像的数据。</translation>
+    </message>
+    <message>
+        <source>ChunkDataStreams_Tooltip</source>
+        <translation>从最后一幅图像的数据块中读取的流参数。</translation>
+    </message>
+    <message>
         <source>ChunkEnable_Tooltip</source>
         <translation>将所选数据块加入每幅图像。</translation>
+    </message>
+    <message>
+        <source>ChunkExposureTime_Tooltip</source>
+        <translation>最后一幅图像的曝光时间（来自其数据块）。</translation>
+    </message>
+    <message>
+        <source>ChunkFrameID_Tooltip</source>
+        <translation>最后一幅图像的编号。</translation>
+    </message>
+    <message>
+        <source>ChunkGain_Tooltip</source>
+        <translation>最后一幅图像的增益（来自其数据块）。</translation>
+    </message>
+    <message>
+        <source>ChunkGainSelector_Tooltip</source>
+        <translation>选择 ChunkGain 显示的增益。</translation>
+    </message>
+    <message>
+        <source>ChunkHeight_Tooltip</source>
+        <translation>最后一幅图像的高度（来自其数据块）。</translation>
+    </message>
+    <message>
+        <source>ChunkLineStatusAll_Tooltip</source>
+        <translation>最后一幅图像曝光时所有信号线的电平。</translation>
     </message>
     <message>
         <source>ChunkModeActive_Tooltip</source>
         <translation>在每幅图像中附加已启用的块数据。</translation>
     </message>
     <message>
+        <source>ChunkOffsetX_Tooltip</source>
+        <translation>最后一幅图像的水平位置（来自其数据块）。</translation>
+    </message>
+    <message>
+        <source>ChunkOffsetY_Tooltip</source>
+        <translation>最后一幅图像的垂直位置（来自其数据块）。</translation>
+    </message>
+    <message>
+        <source>ChunkPayloadCRC16_Tooltip</source>
+        <translation>最后一幅图像数据的校验和。</translation>
+    </message>
+    <message>
+        <source>ChunkPixelFormat_Tooltip</source>
+        <translation>最后一幅图像的像素格式（来自其数据块）。</translation>
+    </message>
+    <message>
         <source>ChunkSelector_Tooltip</source>
         <translation>选择要启用或禁用的数据块。</translation>
     </message>
     <message>
+        <source>ChunkStride_Tooltip</source>
+        <translation>最后一幅图像中一行起点到下一行起点的字节数。</translation>
+    </message>
+    <message>
         <source>ChunkTimestamp_Tooltip</source>
         <translation>最后一幅图像的时间戳（来自其数据块）。</translation>
+    </message>
+    <message>
+        <source>ChunkWidth_Tooltip</source>
+        <translation>最后一幅图像的宽度（来自其数据块）。</translation>
     </message>
     <message>
         <source>ColorControls_Tooltip</source>
@@ -208,6 +300,22 @@
         <translation>选择矩阵中的一个系数。</translation>
     </message>
     <message>
+        <source>CounterAndTimerControl_Tooltip</source>
+        <translation>计数器与定时器。</translation>
+    </message>
+    <message>
+        <source>CounterControls_Tooltip</source>
+        <translation>事件计数器。</translation>
+    </message>
+    <message>
+        <source>CounterDuration_Tooltip</source>
+        <translation>所选计数器停止时的计数值。</translation>
+    </message>
+    <message>
+        <source>CounterEventActivation_Tooltip</source>
+        <translation>被计数信号的哪个边沿计一次。</translation>
+    </message>
+    <message>
         <source>CounterEventSource_Tooltip</source>
         <translation>所选计数器计数的信号。</translation>
     </message>
@@ -216,12 +324,28 @@
         <translation>将所选计数器清零。</translation>
     </message>
     <message>
+        <source>CounterResetActivation_Tooltip</source>
+        <translation>复位信号的哪个边沿使计数器清零。</translation>
+    </message>
+    <message>
+        <source>CounterResetSource_Tooltip</source>
+        <translation>使所选计数器清零的信号。</translation>
+    </message>
+    <message>
         <source>CounterSelector_Tooltip</source>
         <translation>选择要设置的计数器。</translation>
     </message>
     <message>
+        <source>CounterStatus_Tooltip</source>
+        <translation>所选计数器的状态。</translation>
+    </message>
+    <message>
         <source>CounterValue_Tooltip</source>
         <translation>所选计数器的当前计数值。</translation>
+    </message>
+    <message>
+        <source>CounterValueAtReset_Tooltip</source>
+        <translation>所选计数器上次复位时的计数值。</translation>
     </message>
     <message>
         <source>DecimationHorizontal_Tooltip</source>
@@ -452,6 +576,10 @@
         <translation>将像素值左移此位数，使图像更亮。</translation>
     </message>
     <message>
+        <source>EncoderControl_Tooltip</source>
+        <translation>正交旋转编码器的输入。</translation>
+    </message>
+    <message>
         <source>EncoderDivider_Tooltip</source>
         <translation>每 n 个编码器步进只计一次。</translation>
     </message>
@@ -466,6 +594,10 @@
     <message>
         <source>EncoderReset_Tooltip</source>
         <translation>将编码器位置清零。</translation>
+    </message>
+    <message>
+        <source>EncoderResetSource_Tooltip</source>
+        <translation>使编码器位置清零的信号。</translation>
     </message>
     <message>
         <source>EncoderSelector_Tooltip</source>
@@ -484,8 +616,16 @@
         <translation>编码器的转动方向。</translation>
     </message>
     <message>
+        <source>EncoderTimeout_Tooltip</source>
+        <translation>超过此时间无步进，即认为编码器静止。</translation>
+    </message>
+    <message>
         <source>EncoderValue_Tooltip</source>
         <translation>编码器的当前位置。</translation>
+    </message>
+    <message>
+        <source>EncoderValueAtReset_Tooltip</source>
+        <translation>编码器上次复位时的位置。</translation>
     </message>
     <message>
         <source>EventAcquisitionEnd_Tooltip</source>
@@ -744,6 +884,58 @@
         <translation>旧方式的曝光时间（以 ExposureTimeBaseAbs 为单位）。</translation>
     </message>
     <message>
+        <source>FileAccess_Tooltip</source>
+        <translation>保存在相机中的文件。</translation>
+    </message>
+    <message>
+        <source>FileAccessBuffer_Tooltip</source>
+        <translation>从文件读出或要写入文件的数据。</translation>
+    </message>
+    <message>
+        <source>FileAccessControl_Tooltip</source>
+        <translation>读写相机中的文件。</translation>
+    </message>
+    <message>
+        <source>FileAccessLength_Tooltip</source>
+        <translation>要读写的字节数。</translation>
+    </message>
+    <message>
+        <source>FileAccessOffset_Tooltip</source>
+        <translation>下一次读写在文件中的起始位置。</translation>
+    </message>
+    <message>
+        <source>FileOpenMode_Tooltip</source>
+        <translation>以只读、只写还是读写方式打开文件。</translation>
+    </message>
+    <message>
+        <source>FileOperationExecute_Tooltip</source>
+        <translation>对所选文件执行所选操作。</translation>
+    </message>
+    <message>
+        <source>FileOperationResult_Tooltip</source>
+        <translation>上一次读写传输的字节数。</translation>
+    </message>
+    <message>
+        <source>FileOperationSelector_Tooltip</source>
+        <translation>选择 FileOperationExecute 执行的操作：打开、读取、写入、关闭或删除。</translation>
+    </message>
+    <message>
+        <source>FileOperationStatus_Tooltip</source>
+        <translation>上一次文件操作是否成功。</translation>
+    </message>
+    <message>
+        <source>FileSelector_Tooltip</source>
+        <translation>选择要操作的文件。</translation>
+    </message>
+    <message>
+        <source>FileSize_Tooltip</source>
+        <translation>所选文件的大小（字节）。</translation>
+    </message>
+    <message>
+        <source>FileStatus_Tooltip</source>
+        <translation>所选文件是否已打开。</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>传感器信号的放大量。增益越高图像越亮，但噪声也越大。</translation>
     </message>
@@ -892,8 +1084,36 @@
         <translation>图像中每个像素的位数。</translation>
     </message>
     <message>
+        <source>PtpClockAccuracy_Tooltip</source>
+        <translation>相机时钟声明的精度。</translation>
+    </message>
+    <message>
+        <source>PtpControl_Tooltip</source>
+        <translation>通过网络的时钟同步（PTP）。</translation>
+    </message>
+    <message>
+        <source>PtpDataSetLatch_Tooltip</source>
+        <translation>锁存当前的同步值以供读取。</translation>
+    </message>
+    <message>
         <source>PtpEnable_Tooltip</source>
         <translation>通过 PTP 使相机时钟与网络同步。</translation>
+    </message>
+    <message>
+        <source>PtpGrandmasterClockID_Tooltip</source>
+        <translation>上次锁存时的主控时钟标识。</translation>
+    </message>
+    <message>
+        <source>PtpOffsetFromMaster_Tooltip</source>
+        <translation>上次锁存时相机时钟与主时钟的偏差。</translation>
+    </message>
+    <message>
+        <source>PtpParentClockID_Tooltip</source>
+        <translation>上次锁存时的父时钟标识。</translation>
+    </message>
+    <message>
+        <source>PtpServoStatus_Tooltip</source>
+        <translation>相机时钟是否跟随主时钟。</translation>
     </message>
     <message>
         <source>PtpStatus_Tooltip</source>
@@ -960,12 +1180,20 @@
         <translation>高质量去马赛克时应用的锐化。</translation>
     </message>
     <message>
+        <source>SoftwareSignalControl_Tooltip</source>
+        <translation>由软件产生的信号。</translation>
+    </message>
+    <message>
         <source>SoftwareSignalPulse_Tooltip</source>
         <translation>在所选软件信号上发出一个脉冲。</translation>
     </message>
     <message>
         <source>SoftwareSignalSelector_Tooltip</source>
         <translation>选择要发出脉冲的软件信号。</translation>
+    </message>
+    <message>
+        <source>TestEventGenerate_Tooltip</source>
+        <translation>让相机发送一个测试事件。</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -976,6 +1204,10 @@
         <translation>选择要设置的测试图案发生器。</translation>
     </message>
     <message>
+        <source>TimerControls_Tooltip</source>
+        <translation>在内部信号上产生脉冲的定时器。</translation>
+    </message>
+    <message>
         <source>TimerDelay_Tooltip</source>
         <translation>从启动信号到所选定时器脉冲的时间（微秒）。</translation>
     </message>
@@ -984,12 +1216,28 @@
         <translation>所选定时器的脉冲宽度（微秒）。</translation>
     </message>
     <message>
+        <source>TimerReset_Tooltip</source>
+        <translation>复位所选定时器。</translation>
+    </message>
+    <message>
         <source>TimerSelector_Tooltip</source>
         <translation>选择要设置的定时器。</translation>
     </message>
     <message>
+        <source>TimerStatus_Tooltip</source>
+        <translation>所选定时器的状态。</translation>
+    </message>
+    <message>
+        <source>TimerTriggerActivation_Tooltip</source>
+        <translation>启动信号的哪个边沿或电平启动定时器。</translation>
+    </message>
+    <message>
         <source>TimerTriggerSource_Tooltip</source>
         <translation>启动所选定时器的信号。</translation>
+    </message>
+    <message>
+        <source>TimerValue_Tooltip</source>
+        <translation>所选定时器的当前值。</translation>
     </message>
     <message>
         <source>Timestamp_Tooltip</source>
@@ -1060,6 +1308,22 @@
         <translation>相机通电时加载的用户集。</translation>
     </message>
     <message>
+        <source>UserSetDefaultSelector_Tooltip</source>
+        <translation>UserSetDefault 的旧名称。</translation>
+    </message>
+    <message>
+        <source>UserSetFactoryDefaultLoaded_Tooltip</source>
+        <translation>出厂设置生效时为真。</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureEnable_Tooltip</source>
+        <translation>所选功能是否保存在用户集中。</translation>
+    </message>
+    <message>
+        <source>UserSetFeatureSelector_Tooltip</source>
+        <translation>选择要纳入或排除在用户集之外的功能。</translation>
+    </message>
+    <message>
         <source>UserSetLoad_Tooltip</source>
         <translation>将所选用户集加载到相机中。</translation>
     </message>
@@ -1070,6 +1334,10 @@
     <message>
         <source>UserSetSelector_Tooltip</source>
         <translation>选择要加载或保存的用户集。</translation>
+    </message>
+    <message>
+        <source>UserSets_Tooltip</source>
+        <translation>相机设置的保存与恢复。</translation>
     </message>
     <message>
         <source>Width_Tooltip</source>
