@@ -90,6 +90,7 @@ private slots:
     void everyMessageIsFinished();
     void everyTextOfTheSourcesIsInTheCatalogues();
     void toolTipCataloguesCoverTheSameFeatures();
+    void everyFeatureOfTheDefaultCameraHasAToolTip();
     void toolTipOfExposureTimeFollowsTheTranslator();
 };
 
@@ -213,6 +214,37 @@ void TestTranslations::toolTipCataloguesCoverTheSameFeatures()
             keys.append(messageKey(message));
         QCOMPARE(keys, english);
     }
+}
+
+void TestTranslations::everyFeatureOfTheDefaultCameraHasAToolTip()
+{
+    static const QHash<QString, QString> contexts
+        = { { QStringLiteral("@CameraDevice"), QStringLiteral("CameraDevice") },
+              { QStringLiteral("@DeviceTransportLayer"), QStringLiteral("TransportLayer") },
+              { QStringLiteral("@StreamGrabber0"), QStringLiteral("StreamGrabber") },
+              { QStringLiteral("@EventGrabber"), QStringLiteral("EventGrabber") },
+              { QStringLiteral("@ImageFormatConverter"), QStringLiteral("ImageFormatConverter") } };
+    const auto device = Simulation::SimulatedDevice::createDefault(QStringLiteral("GEV"));
+    int features = 0;
+    for (const QString& language : kLanguages) {
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(":/translation/ZarvexViewerComponents_%1.qm").arg(language)));
+        QStringList missing;
+        features = 0;
+        // The description lists every feature, those of other transport-layer types too.
+        for (const Simulation::NodeMapDescription& nodeMap : device->description().nodeMaps) {
+            QVERIFY2(contexts.contains(nodeMap.name), qPrintable(nodeMap.name));
+            const QByteArray context = contexts.value(nodeMap.name).toLatin1();
+            for (const Simulation::FeatureDescription& feature : nodeMap.features) {
+                ++features;
+                const QByteArray key = feature.name.toLatin1() + "_Tooltip";
+                if (translator.translate(context.constData(), key.constData()).isEmpty())
+                    missing.append(QLatin1String(context) + QLatin1Char('/') + feature.name);
+            }
+        }
+        QVERIFY2(missing.isEmpty(), qPrintable(language + QLatin1String(":\n") + missing.join(QLatin1Char('\n'))));
+    }
+    QVERIFY(features > 500);
 }
 
 void TestTranslations::toolTipOfExposureTimeFollowsTheTranslator()

@@ -152,6 +152,10 @@
         <translation>Lets the camera balance the colours by itself: off, once or continuously.</translation>
     </message>
     <message>
+        <source>BandwidthAllocation_Tooltip</source>
+        <translation>Isochronous bandwidth kept for the camera on the bus.</translation>
+    </message>
+    <message>
         <source>BinningHorizontal_Tooltip</source>
         <translation>Number of neighbouring columns combined into one pixel.</translation>
     </message>
@@ -182,6 +186,10 @@
     <message>
         <source>BlackLevelSelector_Tooltip</source>
         <translation>Chooses which black level BlackLevel sets.</translation>
+    </message>
+    <message>
+        <source>CameraEmulation_Tooltip</source>
+        <translation>Where the emulated camera takes its images from.</translation>
     </message>
     <message>
         <source>CenterX_Tooltip</source>
@@ -418,6 +426,10 @@
     <message>
         <source>DeviceLinkCommandTimeout_Tooltip</source>
         <translation>Longest time the camera takes to answer a command.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCurrentThroughput_Tooltip</source>
+        <translation>Data rate the camera sends on the link now, in bytes per second.</translation>
     </message>
     <message>
         <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
@@ -868,6 +880,10 @@
         <translation>How long the sensor gathers light for each image, in microseconds.</translation>
     </message>
     <message>
+        <source>ExposureTimeAbs_Tooltip</source>
+        <translation>Exposure time in microseconds, under its older name.</translation>
+    </message>
+    <message>
         <source>ExposureTimeBaseAbs_Tooltip</source>
         <translation>Time unit of ExposureTimeRaw, in the older way of setting the exposure.</translation>
     </message>
@@ -936,6 +952,14 @@
         <translation>Whether the selected file is open.</translation>
     </message>
     <message>
+        <source>ForceFailedBuffer_Tooltip</source>
+        <translation>Marks the next buffers as failed, to try out error handling.</translation>
+    </message>
+    <message>
+        <source>ForceFailedBufferCount_Tooltip</source>
+        <translation>Number of buffers ForceFailedBuffer marks as failed.</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>Amplification of the sensor signal. More gain gives a brighter but noisier image.</translation>
     </message>
@@ -960,6 +984,14 @@
         <translation>Chooses a gamma value of your own or the sRGB curve.</translation>
     </message>
     <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>Access right of this application on the control channel.</translation>
+    </message>
+    <message>
+        <source>GevControlChannel_Tooltip</source>
+        <translation>Control and message channels.</translation>
+    </message>
+    <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
         <translation>Default gateway the camera uses now.</translation>
     </message>
@@ -968,16 +1000,256 @@
         <translation>IP address the camera uses now.</translation>
     </message>
     <message>
+        <source>GevCurrentIPConfiguration_Tooltip</source>
+        <translation>Address configuration as bits: fixed address, DHCP, link-local.</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationDHCP_Tooltip</source>
+        <translation>The camera gets its address from a DHCP server.</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationLLA_Tooltip</source>
+        <translation>Link-local addressing; always on.</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationPersistentIP_Tooltip</source>
+        <translation>The camera uses the fixed address set below.</translation>
+    </message>
+    <message>
         <source>GevCurrentSubnetMask_Tooltip</source>
         <translation>Subnet mask the camera uses now.</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeCharacterSet_Tooltip</source>
+        <translation>Character set of the texts in the camera bootstrap registers.</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeIsBigEndian_Tooltip</source>
+        <translation>1 when the camera registers are big-endian.</translation>
+    </message>
+    <message>
+        <source>GevFirstURL_Tooltip</source>
+        <translation>First place where the camera description file is found.</translation>
+    </message>
+    <message>
+        <source>GevGVCPHeartbeatDisable_Tooltip</source>
+        <translation>Turns the heartbeat off, for debugging.</translation>
+    </message>
+    <message>
+        <source>GevGVCPPendingAck_Tooltip</source>
+        <translation>The camera tells the application to wait for slow commands.</translation>
+    </message>
+    <message>
+        <source>GevGVSPExtendedIDMode_Tooltip</source>
+        <translation>Uses wider block and packet numbers in the image stream.</translation>
+    </message>
+    <message>
+        <source>GevHeartbeatTimeout_Tooltip</source>
+        <translation>Time without a heartbeat after which the camera drops the connection, in milliseconds.</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588_Tooltip</source>
+        <translation>Synchronises the time stamp with a PTP master clock.</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588Status_Tooltip</source>
+        <translation>State of the PTP synchronisation.</translation>
+    </message>
+    <message>
+        <source>GevInterfaceControl_Tooltip</source>
+        <translation>Settings of the network port.</translation>
+    </message>
+    <message>
+        <source>GevInterfaceSelector_Tooltip</source>
+        <translation>Chooses the network port to set up.</translation>
+    </message>
+    <message>
+        <source>GevLinkSpeed_Tooltip</source>
+        <translation>Speed of the selected network port, in megabits per second.</translation>
+    </message>
+    <message>
+        <source>GevMACAddress_Tooltip</source>
+        <translation>MAC address of the selected network port.</translation>
+    </message>
+    <message>
+        <source>GevMCDA_Tooltip</source>
+        <translation>Address the camera sends event messages to.</translation>
+    </message>
+    <message>
+        <source>GevMCPHostPort_Tooltip</source>
+        <translation>Port on this computer that receives the event messages.</translation>
+    </message>
+    <message>
+        <source>GevMCRC_Tooltip</source>
+        <translation>How often the camera sends an unanswered event message again.</translation>
+    </message>
+    <message>
+        <source>GevMCTT_Tooltip</source>
+        <translation>How long the camera waits for an event message to be acknowledged, in milliseconds.</translation>
+    </message>
+    <message>
+        <source>GevMessageChannelCount_Tooltip</source>
+        <translation>Number of message channels of the camera.</translation>
+    </message>
+    <message>
+        <source>GevNumberOfInterfaces_Tooltip</source>
+        <translation>Number of network ports of the camera.</translation>
+    </message>
+    <message>
+        <source>GevPersistentDefaultGateway_Tooltip</source>
+        <translation>Fixed default gateway the camera uses after switching on.</translation>
+    </message>
+    <message>
+        <source>GevPersistentIPAddress_Tooltip</source>
+        <translation>Fixed IP address the camera uses after switching on.</translation>
+    </message>
+    <message>
+        <source>GevPersistentSubnetMask_Tooltip</source>
+        <translation>Fixed subnet mask the camera uses after switching on.</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationIPAddress_Tooltip</source>
+        <translation>IP address of the application that controls the camera.</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSocket_Tooltip</source>
+        <translation>UDP port of the application that controls the camera.</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSwitchoverKey_Tooltip</source>
+        <translation>Key that lets another application take over control.</translation>
+    </message>
+    <message>
+        <source>GevSCBWR_Tooltip</source>
+        <translation>Share of the bandwidth kept free for packets sent again, in percent.</translation>
+    </message>
+    <message>
+        <source>GevSCBWRA_Tooltip</source>
+        <translation>How much of the reserve a burst of resends may use at once.</translation>
+    </message>
+    <message>
+        <source>GevSCDA_Tooltip</source>
+        <translation>Address the camera sends the images to.</translation>
+    </message>
+    <message>
+        <source>GevSCFTD_Tooltip</source>
+        <translation>Delay before the camera sends an image, in time stamp ticks.</translation>
+    </message>
+    <message>
+        <source>GevSCPD_Tooltip</source>
+        <translation>Pause between image packets, in time stamp ticks; spreads the load on the network.</translation>
+    </message>
+    <message>
+        <source>GevSCPHostPort_Tooltip</source>
+        <translation>UDP port on this computer that receives the images.</translation>
+    </message>
+    <message>
+        <source>GevSCPInterfaceIndex_Tooltip</source>
+        <translation>Network port the selected stream channel uses.</translation>
+    </message>
+    <message>
+        <source>GevSCPSBigEndian_Tooltip</source>
+        <translation>Sends pixel data wider than one byte in big-endian order.</translation>
+    </message>
+    <message>
+        <source>GevSCPSDoNotFragment_Tooltip</source>
+        <translation>Forbids the network to split the image packets.</translation>
+    </message>
+    <message>
+        <source>GevSCPSFireTestPacket_Tooltip</source>
+        <translation>Makes the camera send one test packet of the set size.</translation>
+    </message>
+    <message>
+        <source>GevSCPSPacketSize_Tooltip</source>
+        <translation>Size of the image packets with headers; jumbo frames need a network that carries them.</translation>
+    </message>
+    <message>
+        <source>GevSCSP_Tooltip</source>
+        <translation>UDP port the camera sends the images from.</translation>
+    </message>
+    <message>
+        <source>GevSecondURL_Tooltip</source>
+        <translation>Second place where the camera description file is found.</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelControl_Tooltip</source>
+        <translation>Settings of the image stream channels.</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelCount_Tooltip</source>
+        <translation>Number of image stream channels of the camera.</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelSelector_Tooltip</source>
+        <translation>Chooses the stream channel to set up.</translation>
+    </message>
+    <message>
+        <source>GevSupportedOption_Tooltip</source>
+        <translation>Whether the camera supports the selected option.</translation>
+    </message>
+    <message>
+        <source>GevSupportedOptionSelector_Tooltip</source>
+        <translation>Chooses the option GevSupportedOption reports on.</translation>
+    </message>
+    <message>
+        <source>GevTimestamp_Tooltip</source>
+        <translation>Time stamp and clock synchronisation.</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlLatch_Tooltip</source>
+        <translation>Older way to copy the time stamp into GevTimestampValue.</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlReset_Tooltip</source>
+        <translation>Older way to set the time stamp counter back to zero.</translation>
+    </message>
+    <message>
+        <source>GevTimestampTickFrequency_Tooltip</source>
+        <translation>Number of time stamp ticks per second.</translation>
+    </message>
+    <message>
+        <source>GevTimestampValue_Tooltip</source>
+        <translation>Time stamp copied by GevTimestampControlLatch.</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>Major GigE Vision version the camera supports.</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>Minor GigE Vision version the camera supports.</translation>
+    </message>
+    <message>
+        <source>GigEVision_Tooltip</source>
+        <translation>GigE Vision connection settings.</translation>
     </message>
     <message>
         <source>Height_Tooltip</source>
         <translation>Height of the image the camera sends, in pixels.</translation>
     </message>
     <message>
+        <source>HeightMax_Tooltip</source>
+        <translation>Largest image height with the present binning and decimation.</translation>
+    </message>
+    <message>
         <source>Hue_Tooltip</source>
         <translation>Turns the colour hue.</translation>
+    </message>
+    <message>
+        <source>IIDC_Tooltip</source>
+        <translation>IEEE 1394 connection settings.</translation>
+    </message>
+    <message>
+        <source>IIDCVersion_Tooltip</source>
+        <translation>Version of the IIDC standard the camera follows.</translation>
+    </message>
+    <message>
+        <source>ImageFileMode_Tooltip</source>
+        <translation>Sends the images of ImageFilename instead of the built-in test images.</translation>
+    </message>
+    <message>
+        <source>ImageFilename_Tooltip</source>
+        <translation>Image file, or folder of image files, the emulated camera sends.</translation>
     </message>
     <message>
         <source>ImageFormatControl_Tooltip</source>
@@ -986,6 +1258,10 @@
     <message>
         <source>ImageQualityControl_Tooltip</source>
         <translation>Corrections done in the camera.</translation>
+    </message>
+    <message>
+        <source>IsoSpeed_Tooltip</source>
+        <translation>Speed of the isochronous transfer on the bus.</translation>
     </message>
     <message>
         <source>LUTControls_Tooltip</source>
@@ -1036,6 +1312,10 @@
         <translation>Whether the selected line is an input or an output.</translation>
     </message>
     <message>
+        <source>LinePitch_Tooltip</source>
+        <translation>Bytes from the start of one image line to the next.</translation>
+    </message>
+    <message>
         <source>LineSelector_Tooltip</source>
         <translation>Chooses the I/O line to set up.</translation>
     </message>
@@ -1064,8 +1344,36 @@
         <translation>Vertical position of the image area on the sensor, in pixels from the top.</translation>
     </message>
     <message>
+        <source>PacketSize_Tooltip</source>
+        <translation>Size of the isochronous packets, in bytes.</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer1Size_Tooltip</source>
+        <translation>Size of the first transfer of the remaining image data, in bytes.</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer2Size_Tooltip</source>
+        <translation>Size of the second transfer of the remaining image data, in bytes.</translation>
+    </message>
+    <message>
+        <source>PayloadSize_Tooltip</source>
+        <translation>Bytes the camera sends per image, chunk data included.</translation>
+    </message>
+    <message>
+        <source>PayloadTransferCount_Tooltip</source>
+        <translation>Number of full-size transfers per image.</translation>
+    </message>
+    <message>
+        <source>PayloadTransferSize_Tooltip</source>
+        <translation>Size of each USB transfer of the image data, in bytes.</translation>
+    </message>
+    <message>
         <source>PixelColorFilter_Tooltip</source>
         <translation>Colour filter pattern on the sensor.</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMax_Tooltip</source>
+        <translation>Largest value a pixel can take in the present pixel format.</translation>
     </message>
     <message>
         <source>PixelDynamicRangeMin_Tooltip</source>
@@ -1120,6 +1428,10 @@
         <translation>State of the PTP clock synchronisation.</translation>
     </message>
     <message>
+        <source>ResultingFrameRate_Tooltip</source>
+        <translation>Frame rate the camera reaches with the present exposure, readout and limits.</translation>
+    </message>
+    <message>
         <source>ReverseX_Tooltip</source>
         <translation>Mirrors the image from left to right.</translation>
     </message>
@@ -1160,6 +1472,10 @@
         <translation>Fast readout shortens the readout time but adds noise.</translation>
     </message>
     <message>
+        <source>SensorReadoutTime_Tooltip</source>
+        <translation>Time the sensor needs to read out one image with the present settings.</translation>
+    </message>
+    <message>
         <source>SensorShutterMode_Tooltip</source>
         <translation>Shutter type of the sensor: global or rolling.</translation>
     </message>
@@ -1170,6 +1486,14 @@
     <message>
         <source>SensorWidth_Tooltip</source>
         <translation>Width of the usable sensor area, in pixels.</translation>
+    </message>
+    <message>
+        <source>SequenceEnable_Tooltip</source>
+        <translation>Older switch of the sequencer.</translation>
+    </message>
+    <message>
+        <source>SequencerControl_Tooltip</source>
+        <translation>Sequences of settings switched automatically; not on this model.</translation>
     </message>
     <message>
         <source>ShadingCorrectionMode_Tooltip</source>
@@ -1192,8 +1516,56 @@
         <translation>Chooses the software signal to pulse.</translation>
     </message>
     <message>
+        <source>TestControl_Tooltip</source>
+        <translation>Features for trying out the host software.</translation>
+    </message>
+    <message>
         <source>TestEventGenerate_Tooltip</source>
         <translation>Makes the camera send a test event.</translation>
+    </message>
+    <message>
+        <source>TestExposureFromZero_Tooltip</source>
+        <translation>A logarithmic exposure value whose slider starts at zero.</translation>
+    </message>
+    <message>
+        <source>TestFloatNoIncrement_Tooltip</source>
+        <translation>A float value without a step: it can be typed but not stepped.</translation>
+    </message>
+    <message>
+        <source>TestHexWide_Tooltip</source>
+        <translation>A hexadecimal integer wider than 32 bits.</translation>
+    </message>
+    <message>
+        <source>TestIPAddress_Tooltip</source>
+        <translation>An IPv4 address you can change.</translation>
+    </message>
+    <message>
+        <source>TestImageSelector_Tooltip</source>
+        <translation>Older name of TestPattern.</translation>
+    </message>
+    <message>
+        <source>TestInteger64_Tooltip</source>
+        <translation>An integer whose range goes beyond 32 bits.</translation>
+    </message>
+    <message>
+        <source>TestInteger64Wide_Tooltip</source>
+        <translation>An integer over the whole 64-bit range.</translation>
+    </message>
+    <message>
+        <source>TestLegacyMode_Tooltip</source>
+        <translation>A choice whose present value is no longer on its list.</translation>
+    </message>
+    <message>
+        <source>TestLinearFloat_Tooltip</source>
+        <translation>A float value with a linear slider.</translation>
+    </message>
+    <message>
+        <source>TestLogarithmicFloat_Tooltip</source>
+        <translation>A float value with a logarithmic slider.</translation>
+    </message>
+    <message>
+        <source>TestMACAddress_Tooltip</source>
+        <translation>A MAC address you can change.</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -1202,6 +1574,14 @@
     <message>
         <source>TestPatternGeneratorSelector_Tooltip</source>
         <translation>Chooses which test pattern generator is set.</translation>
+    </message>
+    <message>
+        <source>TestPendingAck_Tooltip</source>
+        <translation>A write to this feature is answered late, to try out pending acknowledgements.</translation>
+    </message>
+    <message>
+        <source>TestSlowCommand_Tooltip</source>
+        <translation>A command that takes three seconds to finish.</translation>
     </message>
     <message>
         <source>TimerControls_Tooltip</source>
@@ -1256,6 +1636,10 @@
         <translation>Sets the time stamp counter back to zero.</translation>
     </message>
     <message>
+        <source>TransportLayer_Tooltip</source>
+        <translation>How the camera is connected to this computer.</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>Which edge or level of the signal sets off the trigger.</translation>
     </message>
@@ -1286,6 +1670,22 @@
     <message>
         <source>TriggerSource_Tooltip</source>
         <translation>Where the trigger comes from: a line, software, a counter or a timer.</translation>
+    </message>
+    <message>
+        <source>U3VCurrentSpeed_Tooltip</source>
+        <translation>USB speed at which the camera is connected.</translation>
+    </message>
+    <message>
+        <source>U3VMaxAcknowledgeTransferLength_Tooltip</source>
+        <translation>Largest answer transfer the camera sends, in bytes.</translation>
+    </message>
+    <message>
+        <source>U3VMaxCommandTransferLength_Tooltip</source>
+        <translation>Largest command transfer the camera takes, in bytes.</translation>
+    </message>
+    <message>
+        <source>USB3Vision_Tooltip</source>
+        <translation>USB3 Vision connection settings.</translation>
     </message>
     <message>
         <source>UserOutputSelector_Tooltip</source>
@@ -1342,6 +1742,10 @@
     <message>
         <source>Width_Tooltip</source>
         <translation>Width of the image the camera sends, in pixels.</translation>
+    </message>
+    <message>
+        <source>WidthMax_Tooltip</source>
+        <translation>Largest image width with the present binning and decimation.</translation>
     </message>
 </context>
 <context>

@@ -152,6 +152,10 @@
         <translation>カメラがホワイトバランスを自動で調整します: オフ、1 回、連続。</translation>
     </message>
     <message>
+        <source>BandwidthAllocation_Tooltip</source>
+        <translation>バス上でカメラ用に確保したアイソクロナス帯域。</translation>
+    </message>
+    <message>
         <source>BinningHorizontal_Tooltip</source>
         <translation>1 画素にまとめる隣接列の数。</translation>
     </message>
@@ -182,6 +186,10 @@
     <message>
         <source>BlackLevelSelector_Tooltip</source>
         <translation>BlackLevel で設定する黒レベルを選びます。</translation>
+    </message>
+    <message>
+        <source>CameraEmulation_Tooltip</source>
+        <translation>エミュレートカメラの画像の取得元。</translation>
     </message>
     <message>
         <source>CenterX_Tooltip</source>
@@ -418,6 +426,10 @@
     <message>
         <source>DeviceLinkCommandTimeout_Tooltip</source>
         <translation>カメラがコマンドに応答するまでの最長時間。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCurrentThroughput_Tooltip</source>
+        <translation>カメラが現在リンクで送っているデータレート (バイト/秒)。</translation>
     </message>
     <message>
         <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
@@ -868,6 +880,10 @@
         <translation>1 枚の画像でセンサーが光を取り込む時間 (マイクロ秒)。</translation>
     </message>
     <message>
+        <source>ExposureTimeAbs_Tooltip</source>
+        <translation>露光時間 (マイクロ秒) の旧名称。</translation>
+    </message>
+    <message>
         <source>ExposureTimeBaseAbs_Tooltip</source>
         <translation>旧方式の露光設定で使う ExposureTimeRaw の時間単位。</translation>
     </message>
@@ -936,6 +952,14 @@
         <translation>選んだファイルが開いているかどうか。</translation>
     </message>
     <message>
+        <source>ForceFailedBuffer_Tooltip</source>
+        <translation>エラー処理を試すため、次のバッファを失敗扱いにします。</translation>
+    </message>
+    <message>
+        <source>ForceFailedBufferCount_Tooltip</source>
+        <translation>ForceFailedBuffer で失敗扱いにするバッファの数。</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>センサー信号の増幅率。上げると画像は明るくなりますがノイズも増えます。</translation>
     </message>
@@ -960,6 +984,14 @@
         <translation>ユーザー指定のガンマ値か sRGB カーブかを選びます。</translation>
     </message>
     <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>制御チャンネルでのこのアプリケーションのアクセス権。</translation>
+    </message>
+    <message>
+        <source>GevControlChannel_Tooltip</source>
+        <translation>制御チャンネルとメッセージチャンネル。</translation>
+    </message>
+    <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
         <translation>カメラが現在使っているデフォルトゲートウェイ。</translation>
     </message>
@@ -968,16 +1000,256 @@
         <translation>カメラが現在使っている IP アドレス。</translation>
     </message>
     <message>
+        <source>GevCurrentIPConfiguration_Tooltip</source>
+        <translation>アドレス設定のビット表現: 固定アドレス、DHCP、リンクローカル。</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationDHCP_Tooltip</source>
+        <translation>カメラは DHCP サーバーからアドレスを取得します。</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationLLA_Tooltip</source>
+        <translation>リンクローカルアドレス。常に有効です。</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationPersistentIP_Tooltip</source>
+        <translation>カメラは下で設定した固定アドレスを使います。</translation>
+    </message>
+    <message>
         <source>GevCurrentSubnetMask_Tooltip</source>
         <translation>カメラが現在使っているサブネットマスク。</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeCharacterSet_Tooltip</source>
+        <translation>カメラのブートストラップレジスタ内の文字列の文字セット。</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeIsBigEndian_Tooltip</source>
+        <translation>カメラのレジスタがビッグエンディアンなら 1。</translation>
+    </message>
+    <message>
+        <source>GevFirstURL_Tooltip</source>
+        <translation>カメラ記述ファイルの 1 番目の場所。</translation>
+    </message>
+    <message>
+        <source>GevGVCPHeartbeatDisable_Tooltip</source>
+        <translation>デバッグ用にハートビートを無効にします。</translation>
+    </message>
+    <message>
+        <source>GevGVCPPendingAck_Tooltip</source>
+        <translation>時間のかかるコマンドの間、カメラがアプリケーションに待つよう知らせます。</translation>
+    </message>
+    <message>
+        <source>GevGVSPExtendedIDMode_Tooltip</source>
+        <translation>画像ストリームで拡張されたブロック番号とパケット番号を使います。</translation>
+    </message>
+    <message>
+        <source>GevHeartbeatTimeout_Tooltip</source>
+        <translation>ハートビートがないまま経過すると、カメラが接続を切る時間 (ミリ秒)。</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588_Tooltip</source>
+        <translation>タイムスタンプを PTP マスタークロックに同期させます。</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588Status_Tooltip</source>
+        <translation>PTP 同期の状態。</translation>
+    </message>
+    <message>
+        <source>GevInterfaceControl_Tooltip</source>
+        <translation>ネットワークポートの設定。</translation>
+    </message>
+    <message>
+        <source>GevInterfaceSelector_Tooltip</source>
+        <translation>設定するネットワークポートを選びます。</translation>
+    </message>
+    <message>
+        <source>GevLinkSpeed_Tooltip</source>
+        <translation>選んだネットワークポートの速度 (Mbps)。</translation>
+    </message>
+    <message>
+        <source>GevMACAddress_Tooltip</source>
+        <translation>選んだネットワークポートの MAC アドレス。</translation>
+    </message>
+    <message>
+        <source>GevMCDA_Tooltip</source>
+        <translation>カメラがイベントメッセージを送るアドレス。</translation>
+    </message>
+    <message>
+        <source>GevMCPHostPort_Tooltip</source>
+        <translation>イベントメッセージを受信するこのコンピューターのポート。</translation>
+    </message>
+    <message>
+        <source>GevMCRC_Tooltip</source>
+        <translation>応答のないイベントメッセージをカメラが再送する回数。</translation>
+    </message>
+    <message>
+        <source>GevMCTT_Tooltip</source>
+        <translation>カメラがイベントメッセージの応答を待つ時間 (ミリ秒)。</translation>
+    </message>
+    <message>
+        <source>GevMessageChannelCount_Tooltip</source>
+        <translation>カメラのメッセージチャンネルの数。</translation>
+    </message>
+    <message>
+        <source>GevNumberOfInterfaces_Tooltip</source>
+        <translation>カメラのネットワークポートの数。</translation>
+    </message>
+    <message>
+        <source>GevPersistentDefaultGateway_Tooltip</source>
+        <translation>電源投入後にカメラが使う固定デフォルトゲートウェイ。</translation>
+    </message>
+    <message>
+        <source>GevPersistentIPAddress_Tooltip</source>
+        <translation>電源投入後にカメラが使う固定 IP アドレス。</translation>
+    </message>
+    <message>
+        <source>GevPersistentSubnetMask_Tooltip</source>
+        <translation>電源投入後にカメラが使う固定サブネットマスク。</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationIPAddress_Tooltip</source>
+        <translation>カメラを制御しているアプリケーションの IP アドレス。</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSocket_Tooltip</source>
+        <translation>カメラを制御しているアプリケーションの UDP ポート。</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSwitchoverKey_Tooltip</source>
+        <translation>別のアプリケーションが制御を引き継ぐためのキー。</translation>
+    </message>
+    <message>
+        <source>GevSCBWR_Tooltip</source>
+        <translation>再送パケット用に空けておく帯域の割合 (%)。</translation>
+    </message>
+    <message>
+        <source>GevSCBWRA_Tooltip</source>
+        <translation>再送が集中したときに一度に使える予備帯域の倍率。</translation>
+    </message>
+    <message>
+        <source>GevSCDA_Tooltip</source>
+        <translation>カメラが画像を送る宛先アドレス。</translation>
+    </message>
+    <message>
+        <source>GevSCFTD_Tooltip</source>
+        <translation>カメラが画像を送る前の遅延 (タイムスタンプ単位)。</translation>
+    </message>
+    <message>
+        <source>GevSCPD_Tooltip</source>
+        <translation>画像パケット間の待ち時間 (タイムスタンプ単位)。ネットワークの負荷を分散します。</translation>
+    </message>
+    <message>
+        <source>GevSCPHostPort_Tooltip</source>
+        <translation>画像を受信するこのコンピューターの UDP ポート。</translation>
+    </message>
+    <message>
+        <source>GevSCPInterfaceIndex_Tooltip</source>
+        <translation>選んだストリームチャンネルが使うネットワークポート。</translation>
+    </message>
+    <message>
+        <source>GevSCPSBigEndian_Tooltip</source>
+        <translation>1 バイトを超える画素データをビッグエンディアンで送ります。</translation>
+    </message>
+    <message>
+        <source>GevSCPSDoNotFragment_Tooltip</source>
+        <translation>ネットワークで画像パケットを分割させないようにします。</translation>
+    </message>
+    <message>
+        <source>GevSCPSFireTestPacket_Tooltip</source>
+        <translation>設定したサイズのテストパケットをカメラに 1 つ送らせます。</translation>
+    </message>
+    <message>
+        <source>GevSCPSPacketSize_Tooltip</source>
+        <translation>ヘッダーを含む画像パケットのサイズ。ジャンボフレームには対応したネットワークが必要です。</translation>
+    </message>
+    <message>
+        <source>GevSCSP_Tooltip</source>
+        <translation>カメラが画像を送信する元の UDP ポート。</translation>
+    </message>
+    <message>
+        <source>GevSecondURL_Tooltip</source>
+        <translation>カメラ記述ファイルの 2 番目の場所。</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelControl_Tooltip</source>
+        <translation>画像ストリームチャンネルの設定。</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelCount_Tooltip</source>
+        <translation>カメラの画像ストリームチャンネルの数。</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelSelector_Tooltip</source>
+        <translation>設定するストリームチャンネルを選びます。</translation>
+    </message>
+    <message>
+        <source>GevSupportedOption_Tooltip</source>
+        <translation>カメラが選んだオプションに対応しているか。</translation>
+    </message>
+    <message>
+        <source>GevSupportedOptionSelector_Tooltip</source>
+        <translation>GevSupportedOption で確認するオプションを選びます。</translation>
+    </message>
+    <message>
+        <source>GevTimestamp_Tooltip</source>
+        <translation>タイムスタンプと時計同期。</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlLatch_Tooltip</source>
+        <translation>タイムスタンプを GevTimestampValue に保持する旧方式。</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlReset_Tooltip</source>
+        <translation>タイムスタンプカウンターを 0 に戻す旧方式。</translation>
+    </message>
+    <message>
+        <source>GevTimestampTickFrequency_Tooltip</source>
+        <translation>1 秒あたりのタイムスタンプのカウント数。</translation>
+    </message>
+    <message>
+        <source>GevTimestampValue_Tooltip</source>
+        <translation>GevTimestampControlLatch で保持したタイムスタンプ。</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>カメラが対応する GigE Vision のメジャーバージョン。</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>カメラが対応する GigE Vision のマイナーバージョン。</translation>
+    </message>
+    <message>
+        <source>GigEVision_Tooltip</source>
+        <translation>GigE Vision 接続の設定。</translation>
     </message>
     <message>
         <source>Height_Tooltip</source>
         <translation>カメラが送る画像の高さ (画素)。</translation>
     </message>
     <message>
+        <source>HeightMax_Tooltip</source>
+        <translation>現在のビニングと間引きでの最大画像高さ。</translation>
+    </message>
+    <message>
         <source>Hue_Tooltip</source>
         <translation>色相を回転させます。</translation>
+    </message>
+    <message>
+        <source>IIDC_Tooltip</source>
+        <translation>IEEE 1394 接続の設定。</translation>
+    </message>
+    <message>
+        <source>IIDCVersion_Tooltip</source>
+        <translation>カメラが準拠する IIDC 規格のバージョン。</translation>
+    </message>
+    <message>
+        <source>ImageFileMode_Tooltip</source>
+        <translation>内蔵のテスト画像の代わりに ImageFilename の画像を送ります。</translation>
+    </message>
+    <message>
+        <source>ImageFilename_Tooltip</source>
+        <translation>エミュレートカメラが送る画像ファイルまたは画像フォルダー。</translation>
     </message>
     <message>
         <source>ImageFormatControl_Tooltip</source>
@@ -986,6 +1258,10 @@
     <message>
         <source>ImageQualityControl_Tooltip</source>
         <translation>カメラ内で行う補正。</translation>
+    </message>
+    <message>
+        <source>IsoSpeed_Tooltip</source>
+        <translation>バス上のアイソクロナス転送の速度。</translation>
     </message>
     <message>
         <source>LUTControls_Tooltip</source>
@@ -1036,6 +1312,10 @@
         <translation>選んだラインが入力か出力か。</translation>
     </message>
     <message>
+        <source>LinePitch_Tooltip</source>
+        <translation>画像の 1 ラインの先頭から次のラインまでのバイト数。</translation>
+    </message>
+    <message>
         <source>LineSelector_Tooltip</source>
         <translation>設定する I/O ラインを選びます。</translation>
     </message>
@@ -1064,8 +1344,36 @@
         <translation>センサー上の画像領域の垂直位置 (上端からの画素数)。</translation>
     </message>
     <message>
+        <source>PacketSize_Tooltip</source>
+        <translation>アイソクロナスパケットのサイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer1Size_Tooltip</source>
+        <translation>残りの画像データの 1 回目の転送サイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer2Size_Tooltip</source>
+        <translation>残りの画像データの 2 回目の転送サイズ (バイト)。</translation>
+    </message>
+    <message>
+        <source>PayloadSize_Tooltip</source>
+        <translation>カメラが 1 枚の画像で送るバイト数 (チャンクデータを含む)。</translation>
+    </message>
+    <message>
+        <source>PayloadTransferCount_Tooltip</source>
+        <translation>1 枚の画像あたりのフルサイズ転送の回数。</translation>
+    </message>
+    <message>
+        <source>PayloadTransferSize_Tooltip</source>
+        <translation>画像データの各 USB 転送のサイズ (バイト)。</translation>
+    </message>
+    <message>
         <source>PixelColorFilter_Tooltip</source>
         <translation>センサーのカラーフィルター配列。</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMax_Tooltip</source>
+        <translation>現在の画素フォーマットで画素が取りうる最大値。</translation>
     </message>
     <message>
         <source>PixelDynamicRangeMin_Tooltip</source>
@@ -1120,6 +1428,10 @@
         <translation>PTP による時計同期の状態。</translation>
     </message>
     <message>
+        <source>ResultingFrameRate_Tooltip</source>
+        <translation>現在の露光、読み出し、制限で実際に出るフレームレート。</translation>
+    </message>
+    <message>
         <source>ReverseX_Tooltip</source>
         <translation>画像を左右反転します。</translation>
     </message>
@@ -1160,6 +1472,10 @@
         <translation>高速読み出しは読み出し時間を短くしますが、ノイズが増えます。</translation>
     </message>
     <message>
+        <source>SensorReadoutTime_Tooltip</source>
+        <translation>現在の設定でセンサーが 1 枚の画像を読み出すのにかかる時間。</translation>
+    </message>
+    <message>
         <source>SensorShutterMode_Tooltip</source>
         <translation>センサーのシャッター方式: グローバルまたはローリング。</translation>
     </message>
@@ -1170,6 +1486,14 @@
     <message>
         <source>SensorWidth_Tooltip</source>
         <translation>センサーの有効幅 (画素)。</translation>
+    </message>
+    <message>
+        <source>SequenceEnable_Tooltip</source>
+        <translation>シーケンサーの旧スイッチ。</translation>
+    </message>
+    <message>
+        <source>SequencerControl_Tooltip</source>
+        <translation>自動で切り替わる設定のシーケンス。このモデルにはありません。</translation>
     </message>
     <message>
         <source>ShadingCorrectionMode_Tooltip</source>
@@ -1192,8 +1516,56 @@
         <translation>パルスを出すソフトウェア信号を選びます。</translation>
     </message>
     <message>
+        <source>TestControl_Tooltip</source>
+        <translation>ホストソフトウェアを試すための機能。</translation>
+    </message>
+    <message>
         <source>TestEventGenerate_Tooltip</source>
         <translation>カメラにテストイベントを送らせます。</translation>
+    </message>
+    <message>
+        <source>TestExposureFromZero_Tooltip</source>
+        <translation>スライダーが 0 から始まる対数の露光値。</translation>
+    </message>
+    <message>
+        <source>TestFloatNoIncrement_Tooltip</source>
+        <translation>増分のない浮動小数点値。入力はできますがステップ操作はできません。</translation>
+    </message>
+    <message>
+        <source>TestHexWide_Tooltip</source>
+        <translation>32 ビットを超える 16 進整数。</translation>
+    </message>
+    <message>
+        <source>TestIPAddress_Tooltip</source>
+        <translation>変更できる IPv4 アドレス。</translation>
+    </message>
+    <message>
+        <source>TestImageSelector_Tooltip</source>
+        <translation>TestPattern の旧名称。</translation>
+    </message>
+    <message>
+        <source>TestInteger64_Tooltip</source>
+        <translation>範囲が 32 ビットを超える整数。</translation>
+    </message>
+    <message>
+        <source>TestInteger64Wide_Tooltip</source>
+        <translation>64 ビット全域の整数。</translation>
+    </message>
+    <message>
+        <source>TestLegacyMode_Tooltip</source>
+        <translation>現在の値が選択肢にもう含まれていない列挙値。</translation>
+    </message>
+    <message>
+        <source>TestLinearFloat_Tooltip</source>
+        <translation>リニアスライダー付きの浮動小数点値。</translation>
+    </message>
+    <message>
+        <source>TestLogarithmicFloat_Tooltip</source>
+        <translation>対数スライダー付きの浮動小数点値。</translation>
+    </message>
+    <message>
+        <source>TestMACAddress_Tooltip</source>
+        <translation>変更できる MAC アドレス。</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -1202,6 +1574,14 @@
     <message>
         <source>TestPatternGeneratorSelector_Tooltip</source>
         <translation>設定するテストパターン生成器を選びます。</translation>
+    </message>
+    <message>
+        <source>TestPendingAck_Tooltip</source>
+        <translation>この機能への書き込みは応答が遅れます。保留応答の確認用です。</translation>
+    </message>
+    <message>
+        <source>TestSlowCommand_Tooltip</source>
+        <translation>完了まで 3 秒かかるコマンド。</translation>
     </message>
     <message>
         <source>TimerControls_Tooltip</source>
@@ -1256,6 +1636,10 @@
         <translation>タイムスタンプカウンターを 0 に戻します。</translation>
     </message>
     <message>
+        <source>TransportLayer_Tooltip</source>
+        <translation>カメラとこのコンピューターの接続。</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>トリガーとなる信号のエッジまたはレベル。</translation>
     </message>
@@ -1286,6 +1670,22 @@
     <message>
         <source>TriggerSource_Tooltip</source>
         <translation>トリガーの入力元: ライン、ソフトウェア、カウンター、タイマー。</translation>
+    </message>
+    <message>
+        <source>U3VCurrentSpeed_Tooltip</source>
+        <translation>カメラの USB 接続速度。</translation>
+    </message>
+    <message>
+        <source>U3VMaxAcknowledgeTransferLength_Tooltip</source>
+        <translation>カメラが送る応答転送の最大長 (バイト)。</translation>
+    </message>
+    <message>
+        <source>U3VMaxCommandTransferLength_Tooltip</source>
+        <translation>カメラが受け付けるコマンド転送の最大長 (バイト)。</translation>
+    </message>
+    <message>
+        <source>USB3Vision_Tooltip</source>
+        <translation>USB3 Vision 接続の設定。</translation>
     </message>
     <message>
         <source>UserOutputSelector_Tooltip</source>
@@ -1342,6 +1742,10 @@
     <message>
         <source>Width_Tooltip</source>
         <translation>カメラが送る画像の幅 (画素)。</translation>
+    </message>
+    <message>
+        <source>WidthMax_Tooltip</source>
+        <translation>現在のビニングと間引きでの最大画像幅。</translation>
     </message>
 </context>
 <context>

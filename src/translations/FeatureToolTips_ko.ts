@@ -152,6 +152,10 @@
         <translation>카메라가 화이트 밸런스를 스스로 맞춥니다: 끄기, 한 번, 연속.</translation>
     </message>
     <message>
+        <source>BandwidthAllocation_Tooltip</source>
+        <translation>버스에서 카메라용으로 확보한 등시성 대역폭입니다.</translation>
+    </message>
+    <message>
         <source>BinningHorizontal_Tooltip</source>
         <translation>한 픽셀로 합치는 인접 열의 수입니다.</translation>
     </message>
@@ -182,6 +186,10 @@
     <message>
         <source>BlackLevelSelector_Tooltip</source>
         <translation>BlackLevel이 설정할 블랙 레벨을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>CameraEmulation_Tooltip</source>
+        <translation>에뮬레이트 카메라가 이미지를 가져오는 곳입니다.</translation>
     </message>
     <message>
         <source>CenterX_Tooltip</source>
@@ -418,6 +426,10 @@
     <message>
         <source>DeviceLinkCommandTimeout_Tooltip</source>
         <translation>카메라가 명령에 응답하는 데 걸리는 최대 시간입니다.</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCurrentThroughput_Tooltip</source>
+        <translation>카메라가 지금 링크로 보내는 데이터 속도(초당 바이트)입니다.</translation>
     </message>
     <message>
         <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
@@ -868,6 +880,10 @@
         <translation>이미지 한 장마다 센서가 빛을 모으는 시간(마이크로초)입니다.</translation>
     </message>
     <message>
+        <source>ExposureTimeAbs_Tooltip</source>
+        <translation>노출 시간(마이크로초)의 예전 이름입니다.</translation>
+    </message>
+    <message>
         <source>ExposureTimeBaseAbs_Tooltip</source>
         <translation>예전 노출 설정 방식에서 ExposureTimeRaw의 시간 단위입니다.</translation>
     </message>
@@ -936,6 +952,14 @@
         <translation>선택한 파일이 열려 있는지입니다.</translation>
     </message>
     <message>
+        <source>ForceFailedBuffer_Tooltip</source>
+        <translation>오류 처리를 시험하려고 다음 버퍼를 실패로 표시합니다.</translation>
+    </message>
+    <message>
+        <source>ForceFailedBufferCount_Tooltip</source>
+        <translation>ForceFailedBuffer가 실패로 표시하는 버퍼 수입니다.</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>센서 신호의 증폭량입니다. 높이면 이미지가 밝아지지만 노이즈도 늘어납니다.</translation>
     </message>
@@ -960,6 +984,14 @@
         <translation>사용자 감마 값과 sRGB 곡선 중에서 선택합니다.</translation>
     </message>
     <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>제어 채널에서 이 애플리케이션의 접근 권한입니다.</translation>
+    </message>
+    <message>
+        <source>GevControlChannel_Tooltip</source>
+        <translation>제어 채널과 메시지 채널입니다.</translation>
+    </message>
+    <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
         <translation>카메라가 지금 쓰는 기본 게이트웨이입니다.</translation>
     </message>
@@ -968,16 +1000,256 @@
         <translation>카메라가 지금 쓰는 IP 주소입니다.</translation>
     </message>
     <message>
+        <source>GevCurrentIPConfiguration_Tooltip</source>
+        <translation>주소 설정을 비트로 나타냅니다: 고정 주소, DHCP, 링크 로컬.</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationDHCP_Tooltip</source>
+        <translation>카메라가 DHCP 서버에서 주소를 받습니다.</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationLLA_Tooltip</source>
+        <translation>링크 로컬 주소 지정입니다. 항상 켜져 있습니다.</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationPersistentIP_Tooltip</source>
+        <translation>카메라가 아래에 설정한 고정 주소를 씁니다.</translation>
+    </message>
+    <message>
         <source>GevCurrentSubnetMask_Tooltip</source>
         <translation>카메라가 지금 쓰는 서브넷 마스크입니다.</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeCharacterSet_Tooltip</source>
+        <translation>카메라 부트스트랩 레지스터에 있는 문자열의 문자 집합입니다.</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeIsBigEndian_Tooltip</source>
+        <translation>카메라 레지스터가 빅 엔디언이면 1입니다.</translation>
+    </message>
+    <message>
+        <source>GevFirstURL_Tooltip</source>
+        <translation>카메라 기술 파일이 있는 첫 번째 위치입니다.</translation>
+    </message>
+    <message>
+        <source>GevGVCPHeartbeatDisable_Tooltip</source>
+        <translation>디버깅을 위해 하트비트를 끕니다.</translation>
+    </message>
+    <message>
+        <source>GevGVCPPendingAck_Tooltip</source>
+        <translation>느린 명령을 처리하는 동안 카메라가 애플리케이션에 기다리라고 알립니다.</translation>
+    </message>
+    <message>
+        <source>GevGVSPExtendedIDMode_Tooltip</source>
+        <translation>이미지 스트림에서 확장된 블록 번호와 패킷 번호를 씁니다.</translation>
+    </message>
+    <message>
+        <source>GevHeartbeatTimeout_Tooltip</source>
+        <translation>하트비트 없이 이 시간(밀리초)이 지나면 카메라가 연결을 끊습니다.</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588_Tooltip</source>
+        <translation>타임스탬프를 PTP 마스터 시계에 동기화합니다.</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588Status_Tooltip</source>
+        <translation>PTP 동기화 상태입니다.</translation>
+    </message>
+    <message>
+        <source>GevInterfaceControl_Tooltip</source>
+        <translation>네트워크 포트 설정입니다.</translation>
+    </message>
+    <message>
+        <source>GevInterfaceSelector_Tooltip</source>
+        <translation>설정할 네트워크 포트를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>GevLinkSpeed_Tooltip</source>
+        <translation>선택한 네트워크 포트의 속도(Mbps)입니다.</translation>
+    </message>
+    <message>
+        <source>GevMACAddress_Tooltip</source>
+        <translation>선택한 네트워크 포트의 MAC 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevMCDA_Tooltip</source>
+        <translation>카메라가 이벤트 메시지를 보내는 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevMCPHostPort_Tooltip</source>
+        <translation>이벤트 메시지를 받는 이 컴퓨터의 포트입니다.</translation>
+    </message>
+    <message>
+        <source>GevMCRC_Tooltip</source>
+        <translation>응답 없는 이벤트 메시지를 카메라가 다시 보내는 횟수입니다.</translation>
+    </message>
+    <message>
+        <source>GevMCTT_Tooltip</source>
+        <translation>카메라가 이벤트 메시지 응답을 기다리는 시간(밀리초)입니다.</translation>
+    </message>
+    <message>
+        <source>GevMessageChannelCount_Tooltip</source>
+        <translation>카메라의 메시지 채널 수입니다.</translation>
+    </message>
+    <message>
+        <source>GevNumberOfInterfaces_Tooltip</source>
+        <translation>카메라의 네트워크 포트 수입니다.</translation>
+    </message>
+    <message>
+        <source>GevPersistentDefaultGateway_Tooltip</source>
+        <translation>카메라가 켜진 뒤 쓰는 고정 기본 게이트웨이입니다.</translation>
+    </message>
+    <message>
+        <source>GevPersistentIPAddress_Tooltip</source>
+        <translation>카메라가 켜진 뒤 쓰는 고정 IP 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevPersistentSubnetMask_Tooltip</source>
+        <translation>카메라가 켜진 뒤 쓰는 고정 서브넷 마스크입니다.</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationIPAddress_Tooltip</source>
+        <translation>카메라를 제어하는 애플리케이션의 IP 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSocket_Tooltip</source>
+        <translation>카메라를 제어하는 애플리케이션의 UDP 포트입니다.</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSwitchoverKey_Tooltip</source>
+        <translation>다른 애플리케이션이 제어를 넘겨받게 하는 키입니다.</translation>
+    </message>
+    <message>
+        <source>GevSCBWR_Tooltip</source>
+        <translation>재전송 패킷을 위해 비워 두는 대역폭 비율(%)입니다.</translation>
+    </message>
+    <message>
+        <source>GevSCBWRA_Tooltip</source>
+        <translation>재전송이 몰릴 때 한 번에 쓸 수 있는 예비 대역폭 배수입니다.</translation>
+    </message>
+    <message>
+        <source>GevSCDA_Tooltip</source>
+        <translation>카메라가 이미지를 보내는 주소입니다.</translation>
+    </message>
+    <message>
+        <source>GevSCFTD_Tooltip</source>
+        <translation>카메라가 이미지를 보내기 전의 지연(타임스탬프 틱)입니다.</translation>
+    </message>
+    <message>
+        <source>GevSCPD_Tooltip</source>
+        <translation>이미지 패킷 사이의 간격(타임스탬프 틱)으로, 네트워크 부하를 나눕니다.</translation>
+    </message>
+    <message>
+        <source>GevSCPHostPort_Tooltip</source>
+        <translation>이미지를 받는 이 컴퓨터의 UDP 포트입니다.</translation>
+    </message>
+    <message>
+        <source>GevSCPInterfaceIndex_Tooltip</source>
+        <translation>선택한 스트림 채널이 쓰는 네트워크 포트입니다.</translation>
+    </message>
+    <message>
+        <source>GevSCPSBigEndian_Tooltip</source>
+        <translation>1바이트보다 넓은 픽셀 데이터를 빅 엔디언으로 보냅니다.</translation>
+    </message>
+    <message>
+        <source>GevSCPSDoNotFragment_Tooltip</source>
+        <translation>네트워크가 이미지 패킷을 나누지 못하게 합니다.</translation>
+    </message>
+    <message>
+        <source>GevSCPSFireTestPacket_Tooltip</source>
+        <translation>설정한 크기의 테스트 패킷을 카메라가 하나 보내게 합니다.</translation>
+    </message>
+    <message>
+        <source>GevSCPSPacketSize_Tooltip</source>
+        <translation>헤더를 포함한 이미지 패킷 크기입니다. 점보 프레임은 이를 지원하는 네트워크가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>GevSCSP_Tooltip</source>
+        <translation>카메라가 이미지를 보내는 UDP 포트입니다.</translation>
+    </message>
+    <message>
+        <source>GevSecondURL_Tooltip</source>
+        <translation>카메라 기술 파일이 있는 두 번째 위치입니다.</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelControl_Tooltip</source>
+        <translation>이미지 스트림 채널 설정입니다.</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelCount_Tooltip</source>
+        <translation>카메라의 이미지 스트림 채널 수입니다.</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelSelector_Tooltip</source>
+        <translation>설정할 스트림 채널을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>GevSupportedOption_Tooltip</source>
+        <translation>카메라가 선택한 옵션을 지원하는지입니다.</translation>
+    </message>
+    <message>
+        <source>GevSupportedOptionSelector_Tooltip</source>
+        <translation>GevSupportedOption이 알려 줄 옵션을 선택합니다.</translation>
+    </message>
+    <message>
+        <source>GevTimestamp_Tooltip</source>
+        <translation>타임스탬프와 시계 동기화입니다.</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlLatch_Tooltip</source>
+        <translation>타임스탬프를 GevTimestampValue에 복사하는 예전 방식입니다.</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlReset_Tooltip</source>
+        <translation>타임스탬프 카운터를 0으로 되돌리는 예전 방식입니다.</translation>
+    </message>
+    <message>
+        <source>GevTimestampTickFrequency_Tooltip</source>
+        <translation>초당 타임스탬프 틱 수입니다.</translation>
+    </message>
+    <message>
+        <source>GevTimestampValue_Tooltip</source>
+        <translation>GevTimestampControlLatch로 복사한 타임스탬프입니다.</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>카메라가 지원하는 GigE Vision 주 버전입니다.</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>카메라가 지원하는 GigE Vision 부 버전입니다.</translation>
+    </message>
+    <message>
+        <source>GigEVision_Tooltip</source>
+        <translation>GigE Vision 연결 설정입니다.</translation>
     </message>
     <message>
         <source>Height_Tooltip</source>
         <translation>카메라가 보내는 이미지의 높이(픽셀)입니다.</translation>
     </message>
     <message>
+        <source>HeightMax_Tooltip</source>
+        <translation>현재 비닝과 데시메이션에서의 최대 이미지 높이입니다.</translation>
+    </message>
+    <message>
         <source>Hue_Tooltip</source>
         <translation>색조를 회전시킵니다.</translation>
+    </message>
+    <message>
+        <source>IIDC_Tooltip</source>
+        <translation>IEEE 1394 연결 설정입니다.</translation>
+    </message>
+    <message>
+        <source>IIDCVersion_Tooltip</source>
+        <translation>카메라가 따르는 IIDC 표준의 버전입니다.</translation>
+    </message>
+    <message>
+        <source>ImageFileMode_Tooltip</source>
+        <translation>내장 테스트 이미지 대신 ImageFilename의 이미지를 보냅니다.</translation>
+    </message>
+    <message>
+        <source>ImageFilename_Tooltip</source>
+        <translation>에뮬레이트 카메라가 보내는 이미지 파일 또는 이미지 폴더입니다.</translation>
     </message>
     <message>
         <source>ImageFormatControl_Tooltip</source>
@@ -986,6 +1258,10 @@
     <message>
         <source>ImageQualityControl_Tooltip</source>
         <translation>카메라 안에서 하는 보정입니다.</translation>
+    </message>
+    <message>
+        <source>IsoSpeed_Tooltip</source>
+        <translation>버스의 등시성 전송 속도입니다.</translation>
     </message>
     <message>
         <source>LUTControls_Tooltip</source>
@@ -1036,6 +1312,10 @@
         <translation>선택한 라인이 입력인지 출력인지입니다.</translation>
     </message>
     <message>
+        <source>LinePitch_Tooltip</source>
+        <translation>이미지 한 라인의 시작부터 다음 라인까지의 바이트 수입니다.</translation>
+    </message>
+    <message>
         <source>LineSelector_Tooltip</source>
         <translation>설정할 I/O 라인을 선택합니다.</translation>
     </message>
@@ -1064,8 +1344,36 @@
         <translation>센서에서 이미지 영역의 세로 위치(위쪽부터 픽셀 수)입니다.</translation>
     </message>
     <message>
+        <source>PacketSize_Tooltip</source>
+        <translation>등시성 패킷의 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer1Size_Tooltip</source>
+        <translation>남은 이미지 데이터의 첫 번째 전송 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer2Size_Tooltip</source>
+        <translation>남은 이미지 데이터의 두 번째 전송 크기(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>PayloadSize_Tooltip</source>
+        <translation>카메라가 이미지 한 장마다 보내는 바이트 수(청크 데이터 포함)입니다.</translation>
+    </message>
+    <message>
+        <source>PayloadTransferCount_Tooltip</source>
+        <translation>이미지 한 장당 전체 크기 전송 횟수입니다.</translation>
+    </message>
+    <message>
+        <source>PayloadTransferSize_Tooltip</source>
+        <translation>이미지 데이터 USB 전송 한 번의 크기(바이트)입니다.</translation>
+    </message>
+    <message>
         <source>PixelColorFilter_Tooltip</source>
         <translation>센서의 컬러 필터 배열입니다.</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMax_Tooltip</source>
+        <translation>현재 픽셀 형식에서 픽셀이 가질 수 있는 최댓값입니다.</translation>
     </message>
     <message>
         <source>PixelDynamicRangeMin_Tooltip</source>
@@ -1120,6 +1428,10 @@
         <translation>PTP 시계 동기화 상태입니다.</translation>
     </message>
     <message>
+        <source>ResultingFrameRate_Tooltip</source>
+        <translation>현재 노출, 읽기, 제한으로 카메라가 내는 프레임 속도입니다.</translation>
+    </message>
+    <message>
         <source>ReverseX_Tooltip</source>
         <translation>이미지를 좌우로 뒤집습니다.</translation>
     </message>
@@ -1160,6 +1472,10 @@
         <translation>빠른 읽기는 읽기 시간을 줄이지만 노이즈가 늘어납니다.</translation>
     </message>
     <message>
+        <source>SensorReadoutTime_Tooltip</source>
+        <translation>현재 설정에서 센서가 이미지 한 장을 읽어 내는 데 걸리는 시간입니다.</translation>
+    </message>
+    <message>
         <source>SensorShutterMode_Tooltip</source>
         <translation>센서의 셔터 방식: 글로벌 또는 롤링.</translation>
     </message>
@@ -1170,6 +1486,14 @@
     <message>
         <source>SensorWidth_Tooltip</source>
         <translation>센서 유효 영역의 너비(픽셀)입니다.</translation>
+    </message>
+    <message>
+        <source>SequenceEnable_Tooltip</source>
+        <translation>시퀀서의 예전 스위치입니다.</translation>
+    </message>
+    <message>
+        <source>SequencerControl_Tooltip</source>
+        <translation>자동으로 바뀌는 설정 시퀀스입니다. 이 모델에는 없습니다.</translation>
     </message>
     <message>
         <source>ShadingCorrectionMode_Tooltip</source>
@@ -1192,8 +1516,56 @@
         <translation>펄스를 낼 소프트웨어 신호를 선택합니다.</translation>
     </message>
     <message>
+        <source>TestControl_Tooltip</source>
+        <translation>호스트 소프트웨어를 시험하기 위한 기능입니다.</translation>
+    </message>
+    <message>
         <source>TestEventGenerate_Tooltip</source>
         <translation>카메라가 테스트 이벤트를 보내게 합니다.</translation>
+    </message>
+    <message>
+        <source>TestExposureFromZero_Tooltip</source>
+        <translation>슬라이더가 0에서 시작하는 로그 노출 값입니다.</translation>
+    </message>
+    <message>
+        <source>TestFloatNoIncrement_Tooltip</source>
+        <translation>증분이 없는 실수 값입니다. 입력은 되지만 단계 조정은 안 됩니다.</translation>
+    </message>
+    <message>
+        <source>TestHexWide_Tooltip</source>
+        <translation>32비트보다 넓은 16진 정수입니다.</translation>
+    </message>
+    <message>
+        <source>TestIPAddress_Tooltip</source>
+        <translation>바꿀 수 있는 IPv4 주소입니다.</translation>
+    </message>
+    <message>
+        <source>TestImageSelector_Tooltip</source>
+        <translation>TestPattern의 예전 이름입니다.</translation>
+    </message>
+    <message>
+        <source>TestInteger64_Tooltip</source>
+        <translation>범위가 32비트를 넘는 정수입니다.</translation>
+    </message>
+    <message>
+        <source>TestInteger64Wide_Tooltip</source>
+        <translation>64비트 전체 범위의 정수입니다.</translation>
+    </message>
+    <message>
+        <source>TestLegacyMode_Tooltip</source>
+        <translation>현재 값이 더 이상 목록에 없는 선택 항목입니다.</translation>
+    </message>
+    <message>
+        <source>TestLinearFloat_Tooltip</source>
+        <translation>선형 슬라이더가 있는 실수 값입니다.</translation>
+    </message>
+    <message>
+        <source>TestLogarithmicFloat_Tooltip</source>
+        <translation>로그 슬라이더가 있는 실수 값입니다.</translation>
+    </message>
+    <message>
+        <source>TestMACAddress_Tooltip</source>
+        <translation>바꿀 수 있는 MAC 주소입니다.</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -1202,6 +1574,14 @@
     <message>
         <source>TestPatternGeneratorSelector_Tooltip</source>
         <translation>설정할 테스트 패턴 생성기를 선택합니다.</translation>
+    </message>
+    <message>
+        <source>TestPendingAck_Tooltip</source>
+        <translation>이 기능에 쓰면 응답이 늦게 옵니다. 보류 응답을 시험하기 위한 것입니다.</translation>
+    </message>
+    <message>
+        <source>TestSlowCommand_Tooltip</source>
+        <translation>끝나는 데 3초가 걸리는 명령입니다.</translation>
     </message>
     <message>
         <source>TimerControls_Tooltip</source>
@@ -1256,6 +1636,10 @@
         <translation>타임스탬프 카운터를 0으로 되돌립니다.</translation>
     </message>
     <message>
+        <source>TransportLayer_Tooltip</source>
+        <translation>카메라와 이 컴퓨터의 연결입니다.</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>트리거를 일으키는 신호의 에지 또는 레벨입니다.</translation>
     </message>
@@ -1286,6 +1670,22 @@
     <message>
         <source>TriggerSource_Tooltip</source>
         <translation>트리거가 오는 곳: 라인, 소프트웨어, 카운터 또는 타이머.</translation>
+    </message>
+    <message>
+        <source>U3VCurrentSpeed_Tooltip</source>
+        <translation>카메라가 연결된 USB 속도입니다.</translation>
+    </message>
+    <message>
+        <source>U3VMaxAcknowledgeTransferLength_Tooltip</source>
+        <translation>카메라가 보내는 응답 전송의 최대 길이(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>U3VMaxCommandTransferLength_Tooltip</source>
+        <translation>카메라가 받는 명령 전송의 최대 길이(바이트)입니다.</translation>
+    </message>
+    <message>
+        <source>USB3Vision_Tooltip</source>
+        <translation>USB3 Vision 연결 설정입니다.</translation>
     </message>
     <message>
         <source>UserOutputSelector_Tooltip</source>
@@ -1342,6 +1742,10 @@
     <message>
         <source>Width_Tooltip</source>
         <translation>카메라가 보내는 이미지의 너비(픽셀)입니다.</translation>
+    </message>
+    <message>
+        <source>WidthMax_Tooltip</source>
+        <translation>현재 비닝과 데시메이션에서의 최대 이미지 너비입니다.</translation>
     </message>
 </context>
 <context>

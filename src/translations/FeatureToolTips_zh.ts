@@ -152,6 +152,10 @@
         <translation>由相机自动调整白平衡：关闭、一次或连续。</translation>
     </message>
     <message>
+        <source>BandwidthAllocation_Tooltip</source>
+        <translation>总线上为相机预留的等时带宽。</translation>
+    </message>
+    <message>
         <source>BinningHorizontal_Tooltip</source>
         <translation>合并为一个像素的相邻列数。</translation>
     </message>
@@ -182,6 +186,10 @@
     <message>
         <source>BlackLevelSelector_Tooltip</source>
         <translation>选择由 BlackLevel 设置的黑电平。</translation>
+    </message>
+    <message>
+        <source>CameraEmulation_Tooltip</source>
+        <translation>模拟相机的图像来源。</translation>
     </message>
     <message>
         <source>CenterX_Tooltip</source>
@@ -418,6 +426,10 @@
     <message>
         <source>DeviceLinkCommandTimeout_Tooltip</source>
         <translation>相机应答命令的最长时间。</translation>
+    </message>
+    <message>
+        <source>DeviceLinkCurrentThroughput_Tooltip</source>
+        <translation>相机当前在链路上发送的数据速率（字节/秒）。</translation>
     </message>
     <message>
         <source>DeviceLinkHeartbeatTimeout_Tooltip</source>
@@ -868,6 +880,10 @@
         <translation>传感器为每幅图像采集光线的时间（微秒）。</translation>
     </message>
     <message>
+        <source>ExposureTimeAbs_Tooltip</source>
+        <translation>曝光时间（微秒）的旧名称。</translation>
+    </message>
+    <message>
         <source>ExposureTimeBaseAbs_Tooltip</source>
         <translation>旧曝光设置方式中 ExposureTimeRaw 的时间单位。</translation>
     </message>
@@ -936,6 +952,14 @@
         <translation>所选文件是否已打开。</translation>
     </message>
     <message>
+        <source>ForceFailedBuffer_Tooltip</source>
+        <translation>将接下来的缓冲区标记为失败，以测试错误处理。</translation>
+    </message>
+    <message>
+        <source>ForceFailedBufferCount_Tooltip</source>
+        <translation>ForceFailedBuffer 标记为失败的缓冲区数量。</translation>
+    </message>
+    <message>
         <source>Gain_Tooltip</source>
         <translation>传感器信号的放大量。增益越高图像越亮，但噪声也越大。</translation>
     </message>
@@ -960,6 +984,14 @@
         <translation>选择自定义伽马值或 sRGB 曲线。</translation>
     </message>
     <message>
+        <source>GevCCP_Tooltip</source>
+        <translation>本应用程序在控制通道上的访问权限。</translation>
+    </message>
+    <message>
+        <source>GevControlChannel_Tooltip</source>
+        <translation>控制通道与消息通道。</translation>
+    </message>
+    <message>
         <source>GevCurrentDefaultGateway_Tooltip</source>
         <translation>相机当前使用的默认网关。</translation>
     </message>
@@ -968,16 +1000,256 @@
         <translation>相机当前使用的 IP 地址。</translation>
     </message>
     <message>
+        <source>GevCurrentIPConfiguration_Tooltip</source>
+        <translation>以位表示的地址配置：固定地址、DHCP、链路本地。</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationDHCP_Tooltip</source>
+        <translation>相机从 DHCP 服务器获取地址。</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationLLA_Tooltip</source>
+        <translation>链路本地地址分配；始终启用。</translation>
+    </message>
+    <message>
+        <source>GevCurrentIPConfigurationPersistentIP_Tooltip</source>
+        <translation>相机使用下方设置的固定地址。</translation>
+    </message>
+    <message>
         <source>GevCurrentSubnetMask_Tooltip</source>
         <translation>相机当前使用的子网掩码。</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeCharacterSet_Tooltip</source>
+        <translation>相机引导寄存器中字符串的字符集。</translation>
+    </message>
+    <message>
+        <source>GevDeviceModeIsBigEndian_Tooltip</source>
+        <translation>相机寄存器为大端序时为 1。</translation>
+    </message>
+    <message>
+        <source>GevFirstURL_Tooltip</source>
+        <translation>相机描述文件的第一个位置。</translation>
+    </message>
+    <message>
+        <source>GevGVCPHeartbeatDisable_Tooltip</source>
+        <translation>关闭心跳，用于调试。</translation>
+    </message>
+    <message>
+        <source>GevGVCPPendingAck_Tooltip</source>
+        <translation>处理耗时命令时，相机通知应用程序等待。</translation>
+    </message>
+    <message>
+        <source>GevGVSPExtendedIDMode_Tooltip</source>
+        <translation>在图像流中使用扩展的块编号和包编号。</translation>
+    </message>
+    <message>
+        <source>GevHeartbeatTimeout_Tooltip</source>
+        <translation>超过此时间（毫秒）未收到心跳，相机即断开连接。</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588_Tooltip</source>
+        <translation>使时间戳与 PTP 主时钟同步。</translation>
+    </message>
+    <message>
+        <source>GevIEEE1588Status_Tooltip</source>
+        <translation>PTP 同步的状态。</translation>
+    </message>
+    <message>
+        <source>GevInterfaceControl_Tooltip</source>
+        <translation>网络端口的设置。</translation>
+    </message>
+    <message>
+        <source>GevInterfaceSelector_Tooltip</source>
+        <translation>选择要设置的网络端口。</translation>
+    </message>
+    <message>
+        <source>GevLinkSpeed_Tooltip</source>
+        <translation>所选网络端口的速度（Mbps）。</translation>
+    </message>
+    <message>
+        <source>GevMACAddress_Tooltip</source>
+        <translation>所选网络端口的 MAC 地址。</translation>
+    </message>
+    <message>
+        <source>GevMCDA_Tooltip</source>
+        <translation>相机发送事件消息的目标地址。</translation>
+    </message>
+    <message>
+        <source>GevMCPHostPort_Tooltip</source>
+        <translation>本计算机上接收事件消息的端口。</translation>
+    </message>
+    <message>
+        <source>GevMCRC_Tooltip</source>
+        <translation>相机重发未确认事件消息的次数。</translation>
+    </message>
+    <message>
+        <source>GevMCTT_Tooltip</source>
+        <translation>相机等待事件消息确认的时间（毫秒）。</translation>
+    </message>
+    <message>
+        <source>GevMessageChannelCount_Tooltip</source>
+        <translation>相机的消息通道数量。</translation>
+    </message>
+    <message>
+        <source>GevNumberOfInterfaces_Tooltip</source>
+        <translation>相机的网络端口数量。</translation>
+    </message>
+    <message>
+        <source>GevPersistentDefaultGateway_Tooltip</source>
+        <translation>相机通电后使用的固定默认网关。</translation>
+    </message>
+    <message>
+        <source>GevPersistentIPAddress_Tooltip</source>
+        <translation>相机通电后使用的固定 IP 地址。</translation>
+    </message>
+    <message>
+        <source>GevPersistentSubnetMask_Tooltip</source>
+        <translation>相机通电后使用的固定子网掩码。</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationIPAddress_Tooltip</source>
+        <translation>控制相机的应用程序的 IP 地址。</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSocket_Tooltip</source>
+        <translation>控制相机的应用程序的 UDP 端口。</translation>
+    </message>
+    <message>
+        <source>GevPrimaryApplicationSwitchoverKey_Tooltip</source>
+        <translation>允许其他应用程序接管控制的密钥。</translation>
+    </message>
+    <message>
+        <source>GevSCBWR_Tooltip</source>
+        <translation>为重发数据包预留的带宽比例（%）。</translation>
+    </message>
+    <message>
+        <source>GevSCBWRA_Tooltip</source>
+        <translation>重发突发时一次可使用的预留带宽倍数。</translation>
+    </message>
+    <message>
+        <source>GevSCDA_Tooltip</source>
+        <translation>相机发送图像的目标地址。</translation>
+    </message>
+    <message>
+        <source>GevSCFTD_Tooltip</source>
+        <translation>相机发送图像前的延迟（时间戳计数）。</translation>
+    </message>
+    <message>
+        <source>GevSCPD_Tooltip</source>
+        <translation>图像数据包之间的间隔（时间戳计数），用于分散网络负载。</translation>
+    </message>
+    <message>
+        <source>GevSCPHostPort_Tooltip</source>
+        <translation>本计算机上接收图像的 UDP 端口。</translation>
+    </message>
+    <message>
+        <source>GevSCPInterfaceIndex_Tooltip</source>
+        <translation>所选流通道使用的网络端口。</translation>
+    </message>
+    <message>
+        <source>GevSCPSBigEndian_Tooltip</source>
+        <translation>以大端序发送多字节像素数据。</translation>
+    </message>
+    <message>
+        <source>GevSCPSDoNotFragment_Tooltip</source>
+        <translation>禁止网络对图像数据包分片。</translation>
+    </message>
+    <message>
+        <source>GevSCPSFireTestPacket_Tooltip</source>
+        <translation>让相机发送一个设定大小的测试数据包。</translation>
+    </message>
+    <message>
+        <source>GevSCPSPacketSize_Tooltip</source>
+        <translation>含包头的图像数据包大小；巨型帧需要网络支持。</translation>
+    </message>
+    <message>
+        <source>GevSCSP_Tooltip</source>
+        <translation>相机发送图像所用的源 UDP 端口。</translation>
+    </message>
+    <message>
+        <source>GevSecondURL_Tooltip</source>
+        <translation>相机描述文件的第二个位置。</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelControl_Tooltip</source>
+        <translation>图像流通道的设置。</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelCount_Tooltip</source>
+        <translation>相机的图像流通道数量。</translation>
+    </message>
+    <message>
+        <source>GevStreamChannelSelector_Tooltip</source>
+        <translation>选择要设置的流通道。</translation>
+    </message>
+    <message>
+        <source>GevSupportedOption_Tooltip</source>
+        <translation>相机是否支持所选选项。</translation>
+    </message>
+    <message>
+        <source>GevSupportedOptionSelector_Tooltip</source>
+        <translation>选择 GevSupportedOption 所报告的选项。</translation>
+    </message>
+    <message>
+        <source>GevTimestamp_Tooltip</source>
+        <translation>时间戳与时钟同步。</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlLatch_Tooltip</source>
+        <translation>将时间戳锁存到 GevTimestampValue 的旧方式。</translation>
+    </message>
+    <message>
+        <source>GevTimestampControlReset_Tooltip</source>
+        <translation>将时间戳计数器清零的旧方式。</translation>
+    </message>
+    <message>
+        <source>GevTimestampTickFrequency_Tooltip</source>
+        <translation>每秒的时间戳计数。</translation>
+    </message>
+    <message>
+        <source>GevTimestampValue_Tooltip</source>
+        <translation>GevTimestampControlLatch 锁存的时间戳。</translation>
+    </message>
+    <message>
+        <source>GevVersionMajor_Tooltip</source>
+        <translation>相机支持的 GigE Vision 主版本号。</translation>
+    </message>
+    <message>
+        <source>GevVersionMinor_Tooltip</source>
+        <translation>相机支持的 GigE Vision 次版本号。</translation>
+    </message>
+    <message>
+        <source>GigEVision_Tooltip</source>
+        <translation>GigE Vision 连接设置。</translation>
     </message>
     <message>
         <source>Height_Tooltip</source>
         <translation>相机发送的图像高度（像素）。</translation>
     </message>
     <message>
+        <source>HeightMax_Tooltip</source>
+        <translation>当前合并与抽样设置下的最大图像高度。</translation>
+    </message>
+    <message>
         <source>Hue_Tooltip</source>
         <translation>旋转色调。</translation>
+    </message>
+    <message>
+        <source>IIDC_Tooltip</source>
+        <translation>IEEE 1394 连接设置。</translation>
+    </message>
+    <message>
+        <source>IIDCVersion_Tooltip</source>
+        <translation>相机遵循的 IIDC 标准版本。</translation>
+    </message>
+    <message>
+        <source>ImageFileMode_Tooltip</source>
+        <translation>发送 ImageFilename 中的图像，而不是内置测试图像。</translation>
+    </message>
+    <message>
+        <source>ImageFilename_Tooltip</source>
+        <translation>模拟相机发送的图像文件或图像文件夹。</translation>
     </message>
     <message>
         <source>ImageFormatControl_Tooltip</source>
@@ -986,6 +1258,10 @@
     <message>
         <source>ImageQualityControl_Tooltip</source>
         <translation>在相机内进行的校正。</translation>
+    </message>
+    <message>
+        <source>IsoSpeed_Tooltip</source>
+        <translation>总线上等时传输的速度。</translation>
     </message>
     <message>
         <source>LUTControls_Tooltip</source>
@@ -1036,6 +1312,10 @@
         <translation>所选线是输入还是输出。</translation>
     </message>
     <message>
+        <source>LinePitch_Tooltip</source>
+        <translation>图像一行起点到下一行起点的字节数。</translation>
+    </message>
+    <message>
         <source>LineSelector_Tooltip</source>
         <translation>选择要设置的 I/O 线。</translation>
     </message>
@@ -1064,8 +1344,36 @@
         <translation>图像区域在传感器上的垂直位置（距上边缘的像素数）。</translation>
     </message>
     <message>
+        <source>PacketSize_Tooltip</source>
+        <translation>等时数据包的大小（字节）。</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer1Size_Tooltip</source>
+        <translation>剩余图像数据第一次传输的大小（字节）。</translation>
+    </message>
+    <message>
+        <source>PayloadFinalTransfer2Size_Tooltip</source>
+        <translation>剩余图像数据第二次传输的大小（字节）。</translation>
+    </message>
+    <message>
+        <source>PayloadSize_Tooltip</source>
+        <translation>相机每幅图像发送的字节数（含块数据）。</translation>
+    </message>
+    <message>
+        <source>PayloadTransferCount_Tooltip</source>
+        <translation>每幅图像的完整传输次数。</translation>
+    </message>
+    <message>
+        <source>PayloadTransferSize_Tooltip</source>
+        <translation>图像数据每次 USB 传输的大小（字节）。</translation>
+    </message>
+    <message>
         <source>PixelColorFilter_Tooltip</source>
         <translation>传感器上的彩色滤光片阵列。</translation>
+    </message>
+    <message>
+        <source>PixelDynamicRangeMax_Tooltip</source>
+        <translation>当前像素格式下像素的最大可能值。</translation>
     </message>
     <message>
         <source>PixelDynamicRangeMin_Tooltip</source>
@@ -1120,6 +1428,10 @@
         <translation>PTP 时钟同步的状态。</translation>
     </message>
     <message>
+        <source>ResultingFrameRate_Tooltip</source>
+        <translation>在当前曝光、读出和限制下相机实际达到的帧率。</translation>
+    </message>
+    <message>
         <source>ReverseX_Tooltip</source>
         <translation>左右镜像翻转图像。</translation>
     </message>
@@ -1160,6 +1472,10 @@
         <translation>快速读出可缩短读出时间，但噪声会增加。</translation>
     </message>
     <message>
+        <source>SensorReadoutTime_Tooltip</source>
+        <translation>当前设置下传感器读出一幅图像所需的时间。</translation>
+    </message>
+    <message>
         <source>SensorShutterMode_Tooltip</source>
         <translation>传感器的快门方式：全局或卷帘。</translation>
     </message>
@@ -1170,6 +1486,14 @@
     <message>
         <source>SensorWidth_Tooltip</source>
         <translation>传感器有效区域的宽度（像素）。</translation>
+    </message>
+    <message>
+        <source>SequenceEnable_Tooltip</source>
+        <translation>序列器的旧开关。</translation>
+    </message>
+    <message>
+        <source>SequencerControl_Tooltip</source>
+        <translation>自动切换的设置序列；本型号不支持。</translation>
     </message>
     <message>
         <source>ShadingCorrectionMode_Tooltip</source>
@@ -1192,8 +1516,56 @@
         <translation>选择要发出脉冲的软件信号。</translation>
     </message>
     <message>
+        <source>TestControl_Tooltip</source>
+        <translation>用于测试主机软件的功能。</translation>
+    </message>
+    <message>
         <source>TestEventGenerate_Tooltip</source>
         <translation>让相机发送一个测试事件。</translation>
+    </message>
+    <message>
+        <source>TestExposureFromZero_Tooltip</source>
+        <translation>滑块从零开始的对数曝光值。</translation>
+    </message>
+    <message>
+        <source>TestFloatNoIncrement_Tooltip</source>
+        <translation>没有步长的浮点值：可以输入，但不能步进。</translation>
+    </message>
+    <message>
+        <source>TestHexWide_Tooltip</source>
+        <translation>超过 32 位的十六进制整数。</translation>
+    </message>
+    <message>
+        <source>TestIPAddress_Tooltip</source>
+        <translation>可修改的 IPv4 地址。</translation>
+    </message>
+    <message>
+        <source>TestImageSelector_Tooltip</source>
+        <translation>TestPattern 的旧名称。</translation>
+    </message>
+    <message>
+        <source>TestInteger64_Tooltip</source>
+        <translation>范围超过 32 位的整数。</translation>
+    </message>
+    <message>
+        <source>TestInteger64Wide_Tooltip</source>
+        <translation>覆盖整个 64 位范围的整数。</translation>
+    </message>
+    <message>
+        <source>TestLegacyMode_Tooltip</source>
+        <translation>当前值已不在选项列表中的枚举。</translation>
+    </message>
+    <message>
+        <source>TestLinearFloat_Tooltip</source>
+        <translation>带线性滑块的浮点值。</translation>
+    </message>
+    <message>
+        <source>TestLogarithmicFloat_Tooltip</source>
+        <translation>带对数滑块的浮点值。</translation>
+    </message>
+    <message>
+        <source>TestMACAddress_Tooltip</source>
+        <translation>可修改的 MAC 地址。</translation>
     </message>
     <message>
         <source>TestPattern_Tooltip</source>
@@ -1202,6 +1574,14 @@
     <message>
         <source>TestPatternGeneratorSelector_Tooltip</source>
         <translation>选择要设置的测试图案发生器。</translation>
+    </message>
+    <message>
+        <source>TestPendingAck_Tooltip</source>
+        <translation>写入此功能时会延迟应答，用于测试挂起确认。</translation>
+    </message>
+    <message>
+        <source>TestSlowCommand_Tooltip</source>
+        <translation>需要三秒才能完成的命令。</translation>
     </message>
     <message>
         <source>TimerControls_Tooltip</source>
@@ -1256,6 +1636,10 @@
         <translation>将时间戳计数器清零。</translation>
     </message>
     <message>
+        <source>TransportLayer_Tooltip</source>
+        <translation>相机与本计算机的连接。</translation>
+    </message>
+    <message>
         <source>TriggerActivation_Tooltip</source>
         <translation>引起触发的信号边沿或电平。</translation>
     </message>
@@ -1286,6 +1670,22 @@
     <message>
         <source>TriggerSource_Tooltip</source>
         <translation>触发来源：输入线、软件、计数器或定时器。</translation>
+    </message>
+    <message>
+        <source>U3VCurrentSpeed_Tooltip</source>
+        <translation>相机连接的 USB 速度。</translation>
+    </message>
+    <message>
+        <source>U3VMaxAcknowledgeTransferLength_Tooltip</source>
+        <translation>相机发送的应答传输最大长度（字节）。</translation>
+    </message>
+    <message>
+        <source>U3VMaxCommandTransferLength_Tooltip</source>
+        <translation>相机接受的命令传输最大长度（字节）。</translation>
+    </message>
+    <message>
+        <source>USB3Vision_Tooltip</source>
+        <translation>USB3 Vision 连接设置。</translation>
     </message>
     <message>
         <source>UserOutputSelector_Tooltip</source>
@@ -1342,6 +1742,10 @@
     <message>
         <source>Width_Tooltip</source>
         <translation>相机发送的图像宽度（像素）。</translation>
+    </message>
+    <message>
+        <source>WidthMax_Tooltip</source>
+        <translation>当前合并与抽样设置下的最大图像宽度。</translation>
     </message>
 </context>
 <context>
