@@ -62,6 +62,32 @@ QList<Message> readCatalogue(const QString& path, QString* error)
     return messages;
 }
 
+//! The node maps of the default camera and the translation contexts of their tool tips.
+const QList<QPair<QString, QString>> kToolTipContexts
+    = { { QStringLiteral("@CameraDevice"), QStringLiteral("CameraDevice") },
+          { QStringLiteral("@DeviceTransportLayer"), QStringLiteral("TransportLayer") },
+          { QStringLiteral("@StreamGrabber0"), QStringLiteral("StreamGrabber") },
+          { QStringLiteral("@EventGrabber"), QStringLiteral("EventGrabber") },
+          { QStringLiteral("@ImageFormatConverter"), QStringLiteral("ImageFormatConverter") } };
+
+QString nodeMapOfContext(const QString& context)
+{
+    for (const auto& pair : kToolTipContexts) {
+        if (pair.second == context)
+            return pair.first;
+    }
+    return QString();
+}
+
+QString contextOfNodeMap(const QString& nodeMap)
+{
+    for (const auto& pair : kToolTipContexts) {
+        if (pair.first == nodeMap)
+            return pair.second;
+    }
+    return QString();
+}
+
 QString sourceCatalogue(const QString& language)
 {
     return QStringLiteral(ZVC_TRANSLATION_DIR "/ZarvexViewerComponents_%1.ts").arg(language);
@@ -180,12 +206,6 @@ void TestTranslations::toolTipCataloguesCoverTheSameFeatures()
 {
     // The same keys in every language, each a feature of the default camera in
     // the context of its node map.
-    static const QHash<QString, QString> contexts
-        = { { QStringLiteral("CameraDevice"), QStringLiteral("@CameraDevice") },
-              { QStringLiteral("TransportLayer"), QStringLiteral("@DeviceTransportLayer") },
-              { QStringLiteral("StreamGrabber"), QStringLiteral("@StreamGrabber0") },
-              { QStringLiteral("EventGrabber"), QStringLiteral("@EventGrabber") },
-              { QStringLiteral("ImageFormatConverter"), QStringLiteral("@ImageFormatConverter") } };
     // Some features exist on one transport-layer type only: a key is good if any type has its feature.
     QList<QSharedPointer<Simulation::SimulatedDevice>> devices;
     for (const char* type : { "GEV", "U3V", "IIDC", "CXP", "CamEmu" })
@@ -201,9 +221,9 @@ void TestTranslations::toolTipCataloguesCoverTheSameFeatures()
     QString error;
     for (const Message& message : readCatalogue(toolTipCatalogue(QStringLiteral("en")), &error)) {
         english.append(messageKey(message));
-        QVERIFY2(contexts.contains(message.context), qPrintable(message.context));
+        QVERIFY2(!nodeMapOfContext(message.context).isEmpty(), qPrintable(message.context));
         QVERIFY2(message.source.endsWith(QLatin1String("_Tooltip")), qPrintable(message.source));
-        const QString mapName = contexts.value(message.context);
+        const QString mapName = nodeMapOfContext(message.context);
         const QString fullName = mapName + QLatin1Char('/') + message.source.chopped(8);
         QVERIFY2(described(mapName, fullName), qPrintable(fullName));
     }
@@ -218,12 +238,6 @@ void TestTranslations::toolTipCataloguesCoverTheSameFeatures()
 
 void TestTranslations::everyFeatureOfTheDefaultCameraHasAToolTip()
 {
-    static const QHash<QString, QString> contexts
-        = { { QStringLiteral("@CameraDevice"), QStringLiteral("CameraDevice") },
-              { QStringLiteral("@DeviceTransportLayer"), QStringLiteral("TransportLayer") },
-              { QStringLiteral("@StreamGrabber0"), QStringLiteral("StreamGrabber") },
-              { QStringLiteral("@EventGrabber"), QStringLiteral("EventGrabber") },
-              { QStringLiteral("@ImageFormatConverter"), QStringLiteral("ImageFormatConverter") } };
     const auto device = Simulation::SimulatedDevice::createDefault(QStringLiteral("GEV"));
     int features = 0;
     for (const QString& language : kLanguages) {
@@ -233,8 +247,8 @@ void TestTranslations::everyFeatureOfTheDefaultCameraHasAToolTip()
         features = 0;
         // The description lists every feature, those of other transport-layer types too.
         for (const Simulation::NodeMapDescription& nodeMap : device->description().nodeMaps) {
-            QVERIFY2(contexts.contains(nodeMap.name), qPrintable(nodeMap.name));
-            const QByteArray context = contexts.value(nodeMap.name).toLatin1();
+            QVERIFY2(!contextOfNodeMap(nodeMap.name).isEmpty(), qPrintable(nodeMap.name));
+            const QByteArray context = contextOfNodeMap(nodeMap.name).toLatin1();
             for (const Simulation::FeatureDescription& feature : nodeMap.features) {
                 ++features;
                 const QByteArray key = feature.name.toLatin1() + "_Tooltip";

@@ -52,6 +52,26 @@ void expandTo(QTreeView* view, const QModelIndex& index)
         view->expand(parent.sibling(parent.row(), 0));
 }
 
+//! Opens the value cell of the feature with F2, types the text over its value and commits it with Return.
+bool typeIntoTree(FeatureTreeWidget* tree, const QString& fullName, const QString& text)
+{
+    const QModelIndex cell = tree->getFeatureExtension()->findItemByFullName(fullName, nullptr, 1);
+    if (!cell.isValid())
+        return false;
+    expandTo(tree->treeView(), cell);
+    tree->treeView()->scrollTo(cell);
+    tree->treeView()->setFocus();
+    tree->treeView()->setCurrentIndex(cell);
+    QTest::keyClick(tree->treeView(), Qt::Key_F2);
+    auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (!line)
+        return false;
+    line->selectAll();
+    QTest::keyClicks(line, text);
+    QTest::keyClick(line, Qt::Key_Return);
+    return true;
+}
+
 } // namespace
 
 class TestViewer : public QObject
@@ -175,18 +195,7 @@ void TestViewer::valueEditedInTheTreeReachesTheCamera()
     QVERIFY(m_window->openCamera(0));
     FeatureTreeWidget* tree = m_window->featureTree();
     const QString fullName = QStringLiteral("@CameraDevice/DeviceUserID");
-    const QModelIndex cell = tree->getFeatureExtension()->findItemByFullName(fullName, nullptr, 1);
-    QVERIFY(cell.isValid());
-    expandTo(tree->treeView(), cell);
-    tree->treeView()->scrollTo(cell);
-    tree->treeView()->setFocus();
-    tree->treeView()->setCurrentIndex(cell);
-    QTest::keyClick(tree->treeView(), Qt::Key_F2);
-    auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    QVERIFY(line);
-    line->selectAll();
-    QTest::keyClicks(line, QStringLiteral("Line 4"));
-    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(typeIntoTree(tree, fullName, QStringLiteral("Line 4")));
     auto map = m_window->camera()->nodeMap(QStringLiteral("@CameraDevice"));
     QTRY_COMPARE(map->getParameter(fullName)->getParameterData()->valueText, QStringLiteral("Line 4"));
     // The current-feature pane follows the tree.
@@ -251,15 +260,7 @@ void TestViewer::failedWriteIsShownWithItsDetails()
     QVERIFY(m_window->selectFeature(fullName));
     m_window->findChild<QAction*>(QStringLiteral("actionFault"))->trigger();
 
-    const QModelIndex cell = tree->getFeatureExtension()->findItemByFullName(fullName, nullptr, 1);
-    tree->treeView()->setFocus();
-    tree->treeView()->setCurrentIndex(cell);
-    QTest::keyClick(tree->treeView(), Qt::Key_F2);
-    auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    QVERIFY(line);
-    line->selectAll();
-    QTest::keyClicks(line, QStringLiteral("refused"));
-    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(typeIntoTree(tree, fullName, QStringLiteral("refused")));
 
     QMessageBox* box = nullptr;
     QTRY_VERIFY((box = m_window->findChild<QMessageBox*>(QStringLiteral("errorBox"))) != nullptr);
