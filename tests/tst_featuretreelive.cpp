@@ -41,10 +41,13 @@ const QByteArray liveCamera = cameraJson(R"(
 
 const char* const dataChangedSignal = SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>));
 
-QSharedPointer<IntegerParameterData> integerSnapshot(qint64 value, qint64 minimum, qint64 maximum, bool writable)
+//! A readable, implemented Beginner snapshot of a numeric parameter.
+template <typename Data, typename Value>
+QSharedPointer<Data> numericSnapshot(
+    ParameterCollection::ParameterType type, Value value, Value minimum, Value maximum, bool writable)
 {
-    auto data = QSharedPointer<IntegerParameterData>::create();
-    data->type = ParameterCollection::TypeInteger;
+    auto data = QSharedPointer<Data>::create();
+    data->type = type;
     data->visibility = GenApi::Beginner;
     data->readable = true;
     data->writable = writable;
@@ -54,6 +57,11 @@ QSharedPointer<IntegerParameterData> integerSnapshot(qint64 value, qint64 minimu
     data->maximum = maximum;
     data->valueText = QString::number(value);
     return data;
+}
+
+QSharedPointer<IntegerParameterData> integerSnapshot(qint64 value, qint64 minimum, qint64 maximum, bool writable)
+{
+    return numericSnapshot<IntegerParameterData>(ParameterCollection::TypeInteger, value, minimum, maximum, writable);
 }
 
 // The polls a node map has seen: the device's clock moves only by poll(elapsed).
@@ -156,17 +164,7 @@ void clearFavourites()
 
 QSharedPointer<FloatParameterData> floatSnapshot(double value)
 {
-    auto data = QSharedPointer<FloatParameterData>::create();
-    data->type = ParameterCollection::TypeFloat;
-    data->visibility = GenApi::Beginner;
-    data->readable = true;
-    data->writable = true;
-    data->implemented = true;
-    data->value = value;
-    data->minimum = 0.0;
-    data->maximum = 10.0;
-    data->valueText = QString::number(value);
-    return data;
+    return numericSnapshot<FloatParameterData>(ParameterCollection::TypeFloat, value, 0.0, 10.0, true);
 }
 } // namespace
 
