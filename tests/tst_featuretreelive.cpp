@@ -675,6 +675,7 @@ void TestFeatureTreeLive::queuedChangeForDeletedItemsReachesNothing()
         QThread::create([parameter] { emit parameter->parameterDataChangedDecoupled(floatSnapshot(2.5)); }));
     emitter->start();
     QVERIFY(emitter->wait(5000));
+    QCOMPARE(treeUpdates, 0); // queued, not yet delivered
 
     if (what == QLatin1String("favourite")) {
         const QModelIndex favourites = model->GetFavoritesRootIndex();
