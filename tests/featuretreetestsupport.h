@@ -72,6 +72,17 @@ inline QModelIndex childByFullName(const QAbstractItemModel& model, const QModel
     return QModelIndex();
 }
 
+//! How many connections a signal of an object has, through QObject::receivers().
+class ReceiverCount : public QObject
+{
+public:
+    static int of(const QObject* object, const char* signal)
+    {
+        int (QObject::*const receiversOf)(const char*) const = &ReceiverCount::receivers;
+        return (object->*receiversOf)(signal);
+    }
+};
+
 // ---- the global error queue -------------------------------------------------
 
 //! Records what the global error queue hands out; the queue is emptied when the watch starts.

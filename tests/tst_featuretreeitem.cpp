@@ -7,6 +7,7 @@
 #include "featuretree/featuretreeinodeitem.h"
 #include "featuretree/featuretreeitem.h"
 #include "featuretree/featuretreemodel.h"
+#include "featuretree/nodemapname.h"
 
 #include <QApplication>
 #include <QBrush>
@@ -109,6 +110,7 @@ private slots:
     void plainItemChildren();
     void shallowFinders();
     void favoritesItem();
+    void translationContextOfTwoNodeMapsBuiltAlternately();
 
 private:
     QSharedPointer<IParameter> parameter(const QString& name) const
@@ -699,6 +701,31 @@ void TestFeatureTreeItem::favoritesItem()
     QVERIFY(!favorites.usePersistentEditor());
     QCOMPARE(favorites.flags(0), baseColumn0 | Qt::ItemIsDropEnabled);
     QCOMPARE(favorites.flags(1), Qt::ItemFlags(Qt::ItemIsEnabled));
+}
+
+void TestFeatureTreeItem::translationContextOfTwoNodeMapsBuiltAlternately()
+{
+    // Each item's context is its own node map's, however the rows of node
+    // maps follow each other, and whatever was built before.
+    const QStringList fullNames { QStringLiteral("@CameraDevice/IntPlain"), QStringLiteral("@StreamGrabber0/Width"),
+        QStringLiteral("@CameraDevice/IntPlain"), QStringLiteral("@StreamGrabber0/Width"),
+        QStringLiteral("@StreamGrabber0/Other"), QStringLiteral("@CameraDevice"), QStringLiteral("@CameraDevice/A/B"),
+        QStringLiteral("@CameraDeviceX/IntPlain"), QStringLiteral("@CameraDevice/IntPlain"),
+        QStringLiteral("@InterfaceNode/IntPlain"), QStringLiteral("@StreamGrabber0/Width"),
+        QStringLiteral("@CameraDevice/IntPlain") };
+    QStringList contexts;
+    for (int round = 0; round < 2; ++round) {
+        for (const QString& fullName : fullNames) {
+            FeatureTreeINodeItem built(m_device->nodeMap(QStringLiteral("@CameraDevice")),
+                parameter(QStringLiteral("IntPlain")), m_model.get(), fullName, nullptr, false);
+            QCOMPARE(built.translationContext(), GetNodemapName(fullName));
+            contexts << built.translationContext();
+        }
+    }
+    QCOMPARE(contexts.at(0), QStringLiteral("CameraDevice"));
+    QVERIFY(contexts.at(1) != contexts.at(0));
+    QCOMPARE(contexts.at(2), contexts.at(0));
+    QCOMPARE(contexts.at(3), contexts.at(1));
 }
 
 QTEST_MAIN(TestFeatureTreeItem)

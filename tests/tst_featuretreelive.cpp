@@ -5,6 +5,7 @@
 
 #include "featuretree/featuretreeinodeitem.h"
 #include "featuretree/featuretreemodel.h"
+#include "featuretree/signalblocker.h"
 #include "parameters/iintegerparameter.h"
 
 #include <QElapsedTimer>
@@ -40,10 +41,13 @@ const QByteArray liveCamera = cameraJson(R"(
 
 const char* const dataChangedSignal = SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>));
 
-QSharedPointer<IntegerParameterData> integerSnapshot(qint64 value, qint64 minimum, qint64 maximum, bool writable)
+//! A readable, implemented Beginner snapshot of a numeric parameter.
+template <typename Data, typename Value>
+QSharedPointer<Data> numericSnapshot(
+    ParameterCollection::ParameterType type, Value value, Value minimum, Value maximum, bool writable)
 {
-    auto data = QSharedPointer<IntegerParameterData>::create();
-    data->type = ParameterCollection::TypeInteger;
+    auto data = QSharedPointer<Data>::create();
+    data->type = type;
     data->visibility = GenApi::Beginner;
     data->readable = true;
     data->writable = writable;
@@ -53,6 +57,11 @@ QSharedPointer<IntegerParameterData> integerSnapshot(qint64 value, qint64 minimu
     data->maximum = maximum;
     data->valueText = QString::number(value);
     return data;
+}
+
+QSharedPointer<IntegerParameterData> integerSnapshot(qint64 value, qint64 minimum, qint64 maximum, bool writable)
+{
+    return numericSnapshot<IntegerParameterData>(ParameterCollection::TypeInteger, value, minimum, maximum, writable);
 }
 
 // The polls a node map has seen: the device's clock moves only by poll(elapsed).
@@ -96,6 +105,14 @@ private slots:
     void unpluggedDeviceStopsPollingAndKeepsTheValues();
     void changesFromAWorkerThreadArriveOnTheGuiThread();
 
+    // one connection per parameter, shared by its items
+    void changeReachesTreeItemThenFavouriteTwin();
+    void queuedChangeForDeletedItemsReachesNothing_data();
+    void queuedChangeForDeletedItemsReachesNothing();
+    void lastItemGoneLeavesNoConnection();
+    void blockedItemNotifiesNothing();
+    void twoModelsEachGetTheirOwnUpdates();
+
 private:
     FeatureTreeINodeItem* addAndFind(
         FeatureTreeModel& model, const QSharedPointer<Simulation::SimulatedDevice>& device, const QString& fullName)
@@ -112,8 +129,44 @@ private:
             &model, QStringLiteral("@CameraDevice/") + name, nullptr, false);
     }
 
+    //! Every parameter item of the model that stands for the parameter, in walk order.
+    static QList<FeatureTreeINodeItem*> itemsOf(
+        FeatureTreeModel& model, const ParameterCollection::IParameter* parameter, const QModelIndex& parent = {})
+    {
+        QList<FeatureTreeINodeItem*> found;
+        for (int row = 0; row < model.rowCount(parent); ++row) {
+            const QModelIndex index = model.index(row, 0, parent);
+            auto* item = qobject_cast<FeatureTreeINodeItem*>(itemAt(index));
+            if (item && item->node().data() == parameter)
+                found << item;
+            found += itemsOf(model, parameter, index);
+        }
+        return found;
+    }
+
+    QSharedPointer<ParameterCollection::IParameter> ratioParameter() const
+    {
+        return m_device->nodeMap(QStringLiteral("@CameraDevice"))->getParameter(QStringLiteral("@CameraDevice/Ratio"));
+    }
+
     QSharedPointer<Simulation::SimulatedDevice> m_device;
 };
+
+namespace {
+const char* const changedSignal
+    = SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>));
+
+void clearFavourites()
+{
+    while (FeatureTreeModel::m_favorites.countNodes() > 0)
+        FeatureTreeModel::m_favorites.removeNode(0, nullptr);
+}
+
+QSharedPointer<FloatParameterData> floatSnapshot(double value)
+{
+    return numericSnapshot<FloatParameterData>(ParameterCollection::TypeFloat, value, 0.0, 10.0, true);
+}
+} // namespace
 
 void TestFeatureTreeLive::initTestCase()
 {
@@ -545,6 +598,193 @@ void TestFeatureTreeLive::changesFromAWorkerThreadArriveOnTheGuiThread()
     worker.quit();
     QVERIFY(worker.wait(5000));
     VERIFY_MODEL_CHECK(check);
+}
+
+// ---- one connection per parameter ------------------------------------------
+
+void TestFeatureTreeLive::changeReachesTreeItemThenFavouriteTwin()
+{
+    clearFavourites();
+    FeatureTreeModel model;
+    // Building the favourites branch and its search line draws the reports the model makes on purpose.
+    ModelCheck check(
+        &model, { Excuse::ChildrenInEveryColumn, Excuse::RootFlags, Excuse::RootDataChanged, Excuse::SearchHelpRow });
+    model.rebuildFavoriteItems();
+    FeatureTreeINodeItem* tree = addAndFind(model, m_device, QStringLiteral("@CameraDevice/Ratio"));
+    QVERIFY(tree);
+    const auto parameter = ratioParameter();
+    QVERIFY(model.AddFavorite(parameter, 0));
+    // The views rebuild the branch when the store changes.
+    model.rebuildFavoriteItems();
+    const QList<FeatureTreeINodeItem*> items = itemsOf(model, parameter.data());
+    QCOMPARE(items.count(), 2);
+    FeatureTreeINodeItem* twin = items.first() == tree ? items.last() : items.first();
+    QVERIFY(twin != tree);
+
+    QList<FeatureTreeINodeItem*> order;
+    QList<double> seen;
+    for (FeatureTreeINodeItem* item : { tree, twin }) {
+        connect(item, &FeatureTreeINodeItem::nodeUpdated, this, [&order, &seen](int, FeatureTreeINodeItem* updated) {
+            order << updated;
+            seen << updated->data(1, Qt::DisplayRole).toString().toDouble();
+        });
+    }
+    QSignalSpy changed(&model, dataChangedSignal);
+    parameter->setValueFromString(QStringLiteral("7.5"));
+    QTRY_COMPARE(order.count(), 2);
+    QCOMPARE(order, (QList<FeatureTreeINodeItem*> { tree, twin }));
+    QCOMPARE(seen, (QList<double> { 7.5, 7.5 }));
+    QSet<const void*> rows;
+    for (const QList<QVariant>& arguments : changed)
+        rows.insert(arguments.at(0).toModelIndex().internalPointer());
+    QVERIFY(rows.contains(tree));
+    QVERIFY(rows.contains(twin));
+    VERIFY_MODEL_CHECK(check);
+    clearFavourites();
+}
+
+void TestFeatureTreeLive::queuedChangeForDeletedItemsReachesNothing_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::newRow("the favourite removed") << QStringLiteral("favourite");
+    QTest::newRow("the model cleared") << QStringLiteral("clear");
+    QTest::newRow("the model deleted") << QStringLiteral("delete");
+}
+
+void TestFeatureTreeLive::queuedChangeForDeletedItemsReachesNothing()
+{
+    QFETCH(QString, what);
+    clearFavourites();
+    const auto parameter = ratioParameter();
+    const int before = ReceiverCount::of(parameter.data(), changedSignal);
+    auto model = std::make_unique<FeatureTreeModel>();
+    model->rebuildFavoriteItems();
+    FeatureTreeINodeItem* tree = addAndFind(*model, m_device, QStringLiteral("@CameraDevice/Ratio"));
+    QVERIFY(tree);
+    QVERIFY(model->AddFavorite(parameter, 0));
+    // The views rebuild the branch when the store changes.
+    model->rebuildFavoriteItems();
+    QCOMPARE(itemsOf(*model, parameter.data()).count(), 2);
+    int treeUpdates = 0;
+    connect(tree, &FeatureTreeINodeItem::nodeUpdated, this, [&treeUpdates] { ++treeUpdates; });
+    int changes = 0;
+    connect(model.get(), &QAbstractItemModel::dataChanged, this, [&changes] { ++changes; });
+
+    // Emitted on another thread: delivery waits for the next turn of this thread's loop.
+    std::unique_ptr<QThread> emitter(
+        QThread::create([parameter] { emit parameter->parameterDataChangedDecoupled(floatSnapshot(2.5)); }));
+    emitter->start();
+    QVERIFY(emitter->wait(5000));
+    QCOMPARE(treeUpdates, 0); // queued, not yet delivered
+
+    if (what == QLatin1String("favourite")) {
+        const QModelIndex favourites = model->GetFavoritesRootIndex();
+        QVERIFY(model->RemoveFavorite(model->index(model->rowCount(favourites) - 1, 0, favourites)));
+        model->rebuildFavoriteItems();
+        QCOMPARE(itemsOf(*model, parameter.data()), QList<FeatureTreeINodeItem*> { tree });
+    } else if (what == QLatin1String("clear")) {
+        model->clear();
+        QCOMPARE(itemsOf(*model, parameter.data()).count(), 0);
+    } else {
+        model.reset();
+    }
+    changes = 0; // what the rebuild announced
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    if (what == QLatin1String("favourite")) {
+        // The tree item still has it, the favourite's row is gone and gets nothing.
+        QCOMPARE(treeUpdates, 1);
+        QCOMPARE(tree->data(1, Qt::DisplayRole).toString().toDouble(), 2.5);
+        QCOMPARE(changes, 2);
+        QCOMPARE(ReceiverCount::of(parameter.data(), changedSignal), before + 1);
+    } else {
+        QCOMPARE(changes, 0);
+        QCOMPARE(ReceiverCount::of(parameter.data(), changedSignal), before);
+    }
+    clearFavourites();
+}
+
+void TestFeatureTreeLive::lastItemGoneLeavesNoConnection()
+{
+    clearFavourites();
+    const auto parameter = ratioParameter();
+    const int before = ReceiverCount::of(parameter.data(), changedSignal);
+    {
+        FeatureTreeModel model;
+        model.rebuildFavoriteItems();
+        QVERIFY(addAndFind(model, m_device, QStringLiteral("@CameraDevice/Ratio")));
+        QCOMPARE(ReceiverCount::of(parameter.data(), changedSignal), before + 1);
+        // A favourite twin shares the one connection.
+        QVERIFY(model.AddFavorite(parameter, 0));
+        // The views rebuild the branch when the store changes.
+        model.rebuildFavoriteItems();
+        QCOMPARE(itemsOf(model, parameter.data()).count(), 2);
+        QCOMPARE(ReceiverCount::of(parameter.data(), changedSignal), before + 1);
+        model.clear();
+        QCOMPARE(ReceiverCount::of(parameter.data(), changedSignal), before);
+    }
+    QCOMPARE(ReceiverCount::of(parameter.data(), changedSignal), before);
+
+    // Subscribing again works.
+    FeatureTreeModel model;
+    ModelCheck check(&model, { Excuse::ChildrenInEveryColumn, Excuse::RootFlags });
+    FeatureTreeINodeItem* again = addAndFind(model, m_device, QStringLiteral("@CameraDevice/Ratio"));
+    QVERIFY(again);
+    QCOMPARE(ReceiverCount::of(parameter.data(), changedSignal), before + 1);
+    QSignalSpy changed(&model, dataChangedSignal);
+    parameter->setValueFromString(QStringLiteral("4.5"));
+    QTRY_COMPARE(changed.count(), 2);
+    QCOMPARE(again->data(1, Qt::DisplayRole).toString().toDouble(), 4.5);
+    VERIFY_MODEL_CHECK(check);
+    clearFavourites();
+}
+
+void TestFeatureTreeLive::blockedItemNotifiesNothing()
+{
+    FeatureTreeModel model;
+    FeatureTreeINodeItem* ratio = addAndFind(model, m_device, QStringLiteral("@CameraDevice/Ratio"));
+    QVERIFY(ratio);
+    QSignalSpy changed(&model, dataChangedSignal);
+    QSignalSpy updated(ratio, &FeatureTreeINodeItem::nodeUpdated);
+    {
+        SignalBlocker blocker(ratio);
+        emit ratio->node()->parameterDataChangedDecoupled(floatSnapshot(6.0));
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(updated.count(), 0);
+    // Unblocked, the next change is told again.
+    emit ratio->node()->parameterDataChangedDecoupled(floatSnapshot(6.5));
+    QCOMPARE(updated.count(), 1);
+    QCOMPARE(changed.count(), 2);
+}
+
+void TestFeatureTreeLive::twoModelsEachGetTheirOwnUpdates()
+{
+    FeatureTreeModel first;
+    FeatureTreeModel second;
+    ModelCheck firstCheck(&first, { Excuse::ChildrenInEveryColumn, Excuse::RootFlags });
+    ModelCheck secondCheck(&second, { Excuse::ChildrenInEveryColumn, Excuse::RootFlags });
+    FeatureTreeINodeItem* a = addAndFind(first, m_device, QStringLiteral("@CameraDevice/Ratio"));
+    FeatureTreeINodeItem* b = addAndFind(second, m_device, QStringLiteral("@CameraDevice/Ratio"));
+    QVERIFY(a && b && a != b);
+    QSignalSpy firstChanged(&first, dataChangedSignal);
+    QSignalSpy secondChanged(&second, dataChangedSignal);
+    ratioParameter()->setValueFromString(QStringLiteral("1.5"));
+    QTRY_COMPARE(firstChanged.count(), 2);
+    QTRY_COMPARE(secondChanged.count(), 2);
+    for (const QList<QVariant>& arguments : firstChanged) {
+        QCOMPARE(arguments.at(0).toModelIndex().model(), &first);
+        QCOMPARE(arguments.at(0).toModelIndex().internalPointer(), static_cast<void*>(a));
+    }
+    for (const QList<QVariant>& arguments : secondChanged) {
+        QCOMPARE(arguments.at(0).toModelIndex().model(), &second);
+        QCOMPARE(arguments.at(0).toModelIndex().internalPointer(), static_cast<void*>(b));
+    }
+    QCOMPARE(a->data(1, Qt::DisplayRole).toString().toDouble(), 1.5);
+    QCOMPARE(b->data(1, Qt::DisplayRole).toString().toDouble(), 1.5);
+    VERIFY_MODEL_CHECK(firstCheck);
+    VERIFY_MODEL_CHECK(secondCheck);
 }
 
 QTEST_MAIN(TestFeatureTreeLive)

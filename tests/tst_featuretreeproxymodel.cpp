@@ -12,6 +12,7 @@
 #include "featuretree/featuretreeproxymodel.h"
 
 #include <QAbstractItemModelTester>
+#include <QIdentityProxyModel>
 #include <QMutex>
 #include <QPersistentModelIndex>
 #include <QSet>
@@ -272,6 +273,56 @@ void expectedResult(const QList<RowFacts>& rows, bool ancestorIsAHit, QStringLis
     }
 }
 
+// ---- models that are read through data() only ------------------------------
+
+//! The model's rows as they are, except that every feature's shown name gains a prefix: only data() tells it.
+class RelabellingProxy : public QIdentityProxyModel
+{
+public:
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        const QVariant value = QIdentityProxyModel::data(index, role);
+        if (role == Qt::DisplayRole && index.column() == 0
+            && !QIdentityProxyModel::data(index, FeatureTreeItem::IsCategoryRole).toBool())
+            return QStringLiteral("Zq ") + value.toString();
+        return value;
+    }
+};
+
+//! Copies the rows below parent with the roles the search reads into a plain item model.
+void copyRows(const QAbstractItemModel& source, const QModelIndex& parent, QStandardItem* into)
+{
+    const int rows = const_cast<QAbstractItemModel&>(source).rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex index = source.index(row, 0, parent);
+        QStandardItem* item = roleItem(index.data(Qt::DisplayRole).toString(),
+            index.data(FeatureTreeItem::NodeNameRole).toString(), index.data(FeatureTreeItem::VisibilityRole).toInt(),
+            index.data(FeatureTreeItem::ShowMeRole).toBool(), index.data(FeatureTreeItem::IsCategoryRole).toBool());
+        item->setData(index.data(FeatureTreeItem::FullNameRole), FeatureTreeItem::FullNameRole);
+        into->appendRow(item);
+        copyRows(source, index, item);
+    }
+}
+
+//! The names the rules count and the rows they show for a text, computed over data() of any model.
+struct Expected
+{
+    QStringList shown;
+    QSet<QString> visible;
+    QSet<QString> invisible;
+};
+
+Expected expectedFor(const QAbstractItemModel& source, const QString& text, int level)
+{
+    QList<RowFacts> facts;
+    const int rows = const_cast<QAbstractItemModel&>(source).rowCount(QModelIndex());
+    for (int row = 0; row < rows; ++row)
+        facts << judge(source, source.index(row, 0), text, level);
+    Expected expected;
+    expectedResult(facts, false, &expected.shown, &expected.visible, &expected.invisible);
+    return expected;
+}
+
 // ---- QAbstractItemModelTester on the proxy ----------------------------------
 
 /*!
@@ -424,6 +475,12 @@ private slots:
     void countsEqualAnIndependentWalk();
     void modelTesterWhileSearchTextsAndLevelsChange_data();
     void modelTesterWhileSearchTextsAndLevelsChange();
+
+    // Rows read from the items directly, and through data() for any other model.
+    void directReadsEqualDataThroughAnyModel_data();
+    void directReadsEqualDataThroughAnyModel();
+    void countsFollowTypingAndDeleting_data();
+    void countsFollowTypingAndDeleting();
 };
 
 void TestFeatureTreeProxyModel::initTestCase()
@@ -1719,6 +1776,162 @@ void TestFeatureTreeProxyModel::modelTesterWhileSearchTextsAndLevelsChange()
     tree.proxy.rebuildFavoriteItems();
     walk(*tested);
     VERIFY_NO_TESTER_REPORTS(reports);
+}
+
+// ---- direct reads against data() --------------------------------------------
+
+void TestFeatureTreeProxyModel::directReadsEqualDataThroughAnyModel_data()
+{
+    QTest::addColumn<bool>("defaultCamera");
+    QTest::addColumn<QString>("between");
+    QTest::addColumn<GenApi::EVisibility>("level");
+    QTest::addColumn<QString>("text");
+    const QStringList texts { QStringLiteral("width"), QStringLiteral("e"), QStringLiteral("Root"),
+        QStringLiteral("zq"), QStringLiteral("Probe"), QString() };
+    const QStringList betweens { QStringLiteral("nothing"), QStringLiteral("identity"), QStringLiteral("relabelling"),
+        QStringLiteral("plain copy") };
+    for (bool defaultCamera : { false, true }) {
+        for (const QString& between : betweens) {
+            for (GenApi::EVisibility level : allLevels) {
+                for (const QString& text : texts) {
+                    QTest::addRow("%s, %s, %s, \"%s\"", defaultCamera ? "default camera" : "synthetic",
+                        qPrintable(between), levelName(level), qPrintable(text))
+                        << defaultCamera << between << level << text;
+                }
+            }
+        }
+    }
+}
+
+void TestFeatureTreeProxyModel::directReadsEqualDataThroughAnyModel()
+{
+    QFETCH(bool, defaultCamera);
+    QFETCH(QString, between);
+    QFETCH(GenApi::EVisibility, level);
+    QFETCH(QString, text);
+
+    setStore({ favorite(QStringLiteral("Width")), favorite(QStringLiteral("Gamma")) });
+    SearchTree tree(
+        defaultCamera ? Simulation::SimulatedDevice::createDefault(QStringLiteral("GEV")) : makeDevice(searchCamera));
+    QVERIFY(tree.device);
+    tree.model.rebuildFavoriteItems();
+    for (const QString& name : tree.device->nodeMapNames())
+        tree.add(name);
+    QVERIFY(fillCompletely(tree.model) > 20);
+
+    QIdentityProxyModel identity;
+    RelabellingProxy relabelling;
+    QStandardItemModel plain;
+    QAbstractItemModel* source = &tree.model;
+    if (between == QLatin1String("identity")) {
+        identity.setSourceModel(&tree.model);
+        source = &identity;
+    } else if (between == QLatin1String("relabelling")) {
+        relabelling.setSourceModel(&tree.model);
+        source = &relabelling;
+    } else if (between == QLatin1String("plain copy")) {
+        copyRows(tree.model, QModelIndex(), plain.invisibleRootItem());
+        source = &plain;
+    }
+    Proxy proxy;
+    setUpLikeTheView(proxy, source);
+    ProxyTesterReports reports({ ProxyTesterReports::Excuse::RootFlags });
+    ViewLikeProxy viewLike;
+    viewLike.setSourceModel(&proxy);
+    QAbstractItemModelTester tester(&viewLike, QAbstractItemModelTester::FailureReportingMode::Warning);
+
+    proxy.setVisibility(level);
+    const QStringList shown = search(proxy, text);
+    Expected expected = expectedFor(*source, text, level);
+    // The search line passes without matching only where the source is the
+    // model itself, which tells it by its item; elsewhere it is an ordinary row.
+    const QModelIndex searchLine = childByFullName(*source, QModelIndex(), QStringLiteral("Search"));
+    if (source != &tree.model && searchLine.isValid()
+        && !searchLine.data(Qt::DisplayRole).toString().contains(text, Qt::CaseInsensitive)
+        && !searchLine.data(FeatureTreeItem::NodeNameRole).toString().contains(text, Qt::CaseInsensitive))
+        expected.shown.removeAll(QStringLiteral("Search"));
+    QCOMPARE(shown, expected.shown);
+    QCOMPARE(proxy.getVisibleMatchCount(), expected.visible.count());
+    QCOMPARE(proxy.getInvisibleMatchCount(), expected.invisible.count());
+    // Every row, one by one, as filterAcceptsRow() judges it, equals the walk.
+    std::function<void(const QModelIndex&)> eachRow = [&](const QModelIndex& parent) {
+        for (int row = 0; row < source->rowCount(parent); ++row) {
+            const QModelIndex index = source->index(row, 0, parent);
+            const QString name = index.data(FeatureTreeItem::FullNameRole).toString();
+            const bool inWalk = expected.shown.contains(name);
+            if (inWalk)
+                QVERIFY2(proxy.filterAcceptsRow(row, parent), qPrintable(name));
+            eachRow(index);
+        }
+    };
+    eachRow(QModelIndex());
+
+    // "zq" is found only in the prefix that data() of the relabelling proxy adds.
+    if (text == QLatin1String("zq") && level == GenApi::Guru) {
+        if (between == QLatin1String("relabelling"))
+            QVERIFY(expected.visible.count() > 10);
+        else
+            QCOMPARE(expected.visible.count(), 0);
+    }
+    VERIFY_NO_TESTER_REPORTS(reports);
+}
+
+void TestFeatureTreeProxyModel::countsFollowTypingAndDeleting_data()
+{
+    QTest::addColumn<GenApi::EVisibility>("level");
+    for (GenApi::EVisibility level : allLevels)
+        QTest::addRow("%s", levelName(level)) << level;
+}
+
+void TestFeatureTreeProxyModel::countsFollowTypingAndDeleting()
+{
+    QFETCH(GenApi::EVisibility, level);
+
+    setStore({ favorite(QStringLiteral("Width")), favorite(QStringLiteral("BinningHorizontal")),
+        favorite(QStringLiteral("NotOnThisCamera")) });
+    SearchTree tree(Simulation::SimulatedDevice::createDefault(QStringLiteral("GEV")));
+    QVERIFY(tree.device);
+    tree.model.rebuildFavoriteItems();
+    for (const QString& name : tree.device->nodeMapNames())
+        tree.add(name);
+    tree.model.CreateFavoritesRoot();
+    FeatureTreeItem* help = tree.model.getSearchHelpItem();
+    QVERIFY(help);
+    ProxyTesterReports reports({ ProxyTesterReports::Excuse::RootFlags });
+    ViewLikeProxy viewLike;
+    viewLike.setSourceModel(&tree.proxy);
+    QAbstractItemModelTester tester(&viewLike, QAbstractItemModelTester::FailureReportingMode::Warning);
+    tree.proxy.setVisibility(level);
+
+    QStringList keystrokes;
+    const QString word = QStringLiteral("Binning");
+    for (int length = 1; length <= word.size(); ++length)
+        keystrokes << word.left(length);
+    for (int length = word.size() - 1; length >= 1; --length)
+        keystrokes << word.left(length);
+    keystrokes << QStringLiteral("Bi") << QStringLiteral("Bin") << QStringLiteral("B") << QString()
+               << QStringLiteral("w") << QStringLiteral("wi") << QStringLiteral("w");
+
+    bool firstRowHidden = false;
+    for (const QString& text : keystrokes) {
+        // As the widget runs a keystroke: the text, a whole pass from the top,
+        // then the search line shown only while hidden features match.
+        tree.proxy.setFilterFixedString(text);
+        tree.proxy.invalidate();
+        const QStringList shown = walk(viewLike);
+        const Expected expected = expectedFor(tree.model, text, level);
+        QCOMPARE(shown, expected.shown);
+        QCOMPARE(tree.proxy.getVisibleMatchCount(), expected.visible.count());
+        QCOMPARE(tree.proxy.getInvisibleMatchCount(), expected.invisible.count());
+        help->setVisibility(!text.isEmpty() && expected.invisible.count() > 0 ? GenApi::Beginner : GenApi::Invisible);
+        const QModelIndex firstSource = tree.model.index(0, 0);
+        if (!tree.proxy.mapFromSource(firstSource).isValid())
+            firstRowHidden = true;
+        VERIFY_NO_TESTER_REPORTS(reports);
+    }
+    // The search line, the first top-level row, was hidden in some passes;
+    // at Invisible it always shows.
+    QCOMPARE(firstRowHidden, level != GenApi::Invisible);
 }
 
 QTEST_MAIN(TestFeatureTreeProxyModel)
