@@ -12,6 +12,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QPointer>
 #include <QUuid>
 #include <QVarLengthArray>
 #include <QVector>
@@ -140,8 +141,13 @@ void FeatureTreeINodeItem::subscribe()
     Subscription& subscription = all.byParameter[parameter];
     if (!subscription.first) {
         subscription.first = this;
+        // The guard drops a change still queued for a parameter that has gone since: a new
+        // parameter may by then live at the same address and must not receive it.
         connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
-            [parameter](QSharedPointer<const ParameterData> data) { subscriptions().deliver(parameter, data); });
+            [parameter, guard = QPointer<IParameter>(parameter)](QSharedPointer<const ParameterData> data) {
+                if (guard)
+                    subscriptions().deliver(parameter, data);
+            });
     } else {
         subscription.more.append(this);
     }
