@@ -7,6 +7,7 @@
 #include "featuretreeproxymodel.h"
 #include "featuretreeview.h"
 #include "ifeaturetreemodelextension.h"
+#include "messages/exceptionlogging.h"
 #include "nodemapfilter.h"
 #include "ui_featuretreewidget.h"
 
@@ -255,7 +256,13 @@ void FeatureTreeWidget::addParameterCollection(
     QSharedPointer<ParameterCollection::IParameterCollection> pParameterCollection, QString const& rootName,
     QString const& roleName, bool isUtf8)
 {
-    NodeMapFilter::applyFilter(pParameterCollection, m_cameraInfo, roleName);
+    // The filter lets a refusal of the collection itself through (an
+    // unplugged camera); the tree is still built from what the model can read.
+    try {
+        NodeMapFilter::applyFilter(pParameterCollection, m_cameraInfo, roleName);
+    } catch (...) {
+        ExceptionLogging::logCurrentException(Q_FUNC_INFO, QStringLiteral("Failed to apply the node map filter"));
+    }
     IFeatureTreeModelExtension* extension = getFeatureExtension();
     if (!extension)
         return;
@@ -342,8 +349,14 @@ void FeatureTreeWidget::onCurrentChanged(QModelIndex const& current)
 void FeatureTreeWidget::on_resetButton_clicked()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    if (IFeatureTreeModelExtension* extension = getFeatureExtension())
-        extension->refresh();
+    // Caught here so that a failing camera leaves neither a crash nor the wait cursor behind.
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
+        try {
+            extension->refresh();
+        } catch (...) {
+            ExceptionLogging::logCurrentException(Q_FUNC_INFO, QStringLiteral("Failed to refresh the features"));
+        }
+    }
     QGuiApplication::restoreOverrideCursor();
 }
 
