@@ -37,6 +37,30 @@ const FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel() const
 
 // ---- filtering -----------------------------------------------------------
 
+void FeatureTreeProxyModel::fillSourceLevel(const QModelIndex& parent) const
+{
+    if (QAbstractItemModel* source = sourceModel())
+        source->rowCount(mapToSource(parent));
+}
+
+QModelIndex FeatureTreeProxyModel::index(int row, int column, const QModelIndex& parent) const
+{
+    fillSourceLevel(parent);
+    return QSortFilterProxyModel::index(row, column, parent);
+}
+
+int FeatureTreeProxyModel::rowCount(const QModelIndex& parent) const
+{
+    fillSourceLevel(parent);
+    return QSortFilterProxyModel::rowCount(parent);
+}
+
+bool FeatureTreeProxyModel::hasChildren(const QModelIndex& parent) const
+{
+    fillSourceLevel(parent);
+    return QSortFilterProxyModel::hasChildren(parent);
+}
+
 bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
 {
     const QRegExp pattern = filterRegExp();

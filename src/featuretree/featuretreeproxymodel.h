@@ -33,6 +33,14 @@ public:
 
     using QSortFilterProxyModel::parent;
 
+    // The model fills a category when its children are first counted, and
+    // announces them. These count the source level first, so that the
+    // announcement never arrives while the base class is mapping that very
+    // parent: it would map it a second time and lose the first mapping.
+    QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    bool hasChildren(const QModelIndex& parent = QModelIndex()) const override;
+
     int getVisibleMatchCount() const;
     int getInvisibleMatchCount() const;
 
@@ -95,6 +103,8 @@ protected:
     bool hasAcceptedChildren(int sourceRow, const QModelIndex& sourceParent, int depth) const;
 
 private:
+    //! Lets the model fill the source level below parent, outside any mapping of the base class.
+    void fillSourceLevel(const QModelIndex& parent) const;
     bool matchesFilter(const QString& text) const;
 
     bool m_addingCollection = false;

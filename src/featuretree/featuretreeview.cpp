@@ -12,6 +12,7 @@
 #include <QPainter>
 
 #include <exception>
+#include <functional>
 
 FeatureTreeView::FeatureTreeView(QWidget* parent)
     : QTreeView(parent)
@@ -118,7 +119,8 @@ void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
     QAbstractItemView::openPersistentEditor(index);
 }
 
-void FeatureTreeView::openPersistentEditorsForChildren(QModelIndex const& parent)
+void FeatureTreeView::forEachValueCell(QModelIndex const& parent,
+    const std::function<void(int row, QModelIndex const& child, FeatureTreeItem* item)>& visit)
 {
     IFeatureTreeModelExtension* extension = getFeatureExtension();
     if (!extension || !model() || !isExpanded(parent))
@@ -126,10 +128,16 @@ void FeatureTreeView::openPersistentEditorsForChildren(QModelIndex const& parent
     const int rows = model()->rowCount(parent);
     for (int row = 0; row < rows; ++row) {
         const QModelIndex child = model()->index(row, 1, parent);
-        FeatureTreeItem* item = extension->getFeatureTreeItem(child);
+        visit(row, child, extension->getFeatureTreeItem(child));
+    }
+}
+
+void FeatureTreeView::openPersistentEditorsForChildren(QModelIndex const& parent)
+{
+    forEachValueCell(parent, [this](int, QModelIndex const& child, FeatureTreeItem* item) {
         if (item && item->ShowMe(m_visibility) && !indexWidget(child) && item->usePersistentEditor())
             openPersistentEditor(child);
-    }
+    });
 }
 
 void FeatureTreeView::hideRow(int row, QModelIndex const& parent)
@@ -143,13 +151,8 @@ void FeatureTreeView::hideRow(int row, QModelIndex const& parent)
 
 void FeatureTreeView::updateRows(QModelIndex const& parent)
 {
-    IFeatureTreeModelExtension* extension = getFeatureExtension();
-    if (!extension || !model() || !isExpanded(parent))
-        return;
-    const int rows = model()->rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex child = model()->index(row, 1, parent);
-        if (FeatureTreeItem* item = extension->getFeatureTreeItem(child)) {
+    forEachValueCell(parent, [this, &parent](int row, QModelIndex const& child, FeatureTreeItem* item) {
+        if (item) {
             if (item->ShowMe(m_visibility)) {
                 if (isRowHidden(row, parent))
                     setRowHidden(row, parent, false);
@@ -161,7 +164,7 @@ void FeatureTreeView::updateRows(QModelIndex const& parent)
         }
         // On the column-1 index: a deeper level is handled when it is expanded.
         updateRows(child);
-    }
+    });
 }
 
 void FeatureTreeView::rowsInserted(QModelIndex const& parent, int start, int end)

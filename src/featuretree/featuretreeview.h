@@ -8,6 +8,9 @@
 #include <QSet>
 #include <QTreeView>
 
+#include <functional>
+
+class FeatureTreeItem;
 class IFeatureTreeModelExtension;
 
 /*!
@@ -78,7 +81,11 @@ protected:
     virtual void createModel();
 
 private:
+    //! Hides a row and tells the host when the current row went with it.
     void hideRow(int row, QModelIndex const& parent);
+    //! Visits the value cells of the children of an expanded parent.
+    void forEachValueCell(QModelIndex const& parent,
+        const std::function<void(int row, QModelIndex const& child, FeatureTreeItem* item)>& visit);
 
     GenApi::EVisibility m_visibility;
     QSet<QPersistentModelIndex> m_persistentIndexes;
