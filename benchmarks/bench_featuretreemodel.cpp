@@ -69,13 +69,17 @@ int main(int argc, char** argv)
         const QSharedPointer<SimulatedDevice> device = makeDevice(count, 0, 0);
         const QSharedPointer<IParameterCollection> collection = device->nodeMap(nodeMapName);
 
-        // The simulation makes its parameter objects on first look-up: make them
-        // all now, so that neither model is charged for them.
+        // The simulation makes its parameter objects on first look-up and frees
+        // them with their last user: make them all now and keep them for the
+        // whole measurement, as a camera's parameter layer holds its own, so
+        // that neither model is charged for them.
+        QList<QSharedPointer<IParameter>> parameters;
         {
             QStandardItemModel warmUp;
             auto* root = new QStandardItem;
             warmUp.appendRow(root);
-            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"));
+            parameters.append(collection->getParameter(nodeMapName + QStringLiteral("/Root")));
+            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"), &parameters);
         }
 
         // Feature tree model.

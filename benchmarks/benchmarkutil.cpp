@@ -40,14 +40,16 @@ int walkRowCount(const QAbstractItemModel& model, const QModelIndex& parent)
     return total;
 }
 
-void fillStandardModel(
-    QStandardItem* parent, ParameterCollection::IParameterCollection& collection, const QString& fullName)
+void fillStandardModel(QStandardItem* parent, ParameterCollection::IParameterCollection& collection,
+    const QString& fullName, QList<QSharedPointer<ParameterCollection::IParameter>>* keep)
 {
     using namespace ParameterCollection;
     for (const QString& child : collection.getChildNames(fullName, false, true)) {
         const QSharedPointer<IParameter> parameter = collection.getParameter(child);
         if (!parameter || parameter->isZombie())
             continue;
+        if (keep)
+            keep->append(parameter);
         const QSharedPointer<const ParameterData> data = parameter->getParameterData();
         const QString displayName
             = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
@@ -55,7 +57,7 @@ void fillStandardModel(
         auto* valueItem = new QStandardItem(data ? data->valueText : QString());
         parent->appendRow({ nameItem, valueItem });
         if (parameter->getType() == TypeCategory)
-            fillStandardModel(nameItem, collection, child);
+            fillStandardModel(nameItem, collection, child, keep);
     }
 }
 

@@ -24,7 +24,8 @@ double timeMs(const std::function<void()>& work);
 int walkRowCount(const QAbstractItemModel& model, const QModelIndex& parent);
 
 //! The plain alternative to the feature tree: the same names and value texts copied into standard items.
-void fillStandardModel(
-    QStandardItem* parent, ParameterCollection::IParameterCollection& collection, const QString& fullName);
+//! When `keep` is given, every parameter looked up is kept alive in it.
+void fillStandardModel(QStandardItem* parent, ParameterCollection::IParameterCollection& collection,
+    const QString& fullName, QList<QSharedPointer<ParameterCollection::IParameter>>* keep = nullptr);
 
 } // namespace BenchmarkUtil

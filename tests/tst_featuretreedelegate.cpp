@@ -69,6 +69,7 @@ private slots:
     void emptySearchMarksNothing();
     void matchesAreMarkedInTheVisibleTextOnly();
     void specialRowsAreNotMarked();
+    void searchResultLineShowsNoTags();
 
 private:
     QModelIndex valueIndex(const char* name) { return m_model->findItemByFullName(cameraFeature(name), nullptr, 1); }
@@ -367,6 +368,41 @@ void TestFeatureTreeDelegate::specialRowsAreNotMarked()
     QVERIFY(countPixels(
                 paintName(delegate, m_model->findItemByFullName(cameraFeature("Gain"), nullptr, 0), 300), kMarkColour)
         > 0);
+}
+
+void TestFeatureTreeDelegate::searchResultLineShowsNoTags()
+{
+    m_model->rebuildFavoriteItems();
+    FeatureTreeItem* help = m_model->getSearchHelpItem();
+    QVERIFY(help);
+    const QModelIndex index = m_model->findItem(help, nullptr, 0);
+    QVERIFY(index.isValid());
+    const QString title = index.data(Qt::DisplayRole).toString();
+    QVERIFY2(title.startsWith(QLatin1String("<HTML><B>")), qPrintable(title));
+    FeatureTreeDelegate delegate(nullptr, m_model.get(), m_highlighter.get());
+    const QImage painted = paintName(delegate, index, 1200);
+
+    // The line is drawn in bold without its tags: its ink ends where the bold words alone end,
+    // well before the literal text with "<HTML><B>" and "</B>" would.
+    auto inkEnd = [](const QImage& image) {
+        int end = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) != Qt::white)
+                    end = qMax(end, x);
+        return end;
+    };
+    QFont bold = QApplication::font();
+    bold.setBold(true);
+    QString words = title;
+    words.remove(QStringLiteral("<HTML>")).remove(QStringLiteral("<B>")).remove(QStringLiteral("</B>"));
+    const int boldWidth = QFontMetrics(bold).horizontalAdvance(words);
+    const int literalWidth = QFontMetrics(QApplication::font()).horizontalAdvance(title);
+    QVERIFY(inkEnd(painted) > 0);
+    QVERIFY2(
+        inkEnd(painted) < literalWidth - QFontMetrics(QApplication::font()).horizontalAdvance(QStringLiteral("<B>")),
+        qPrintable(QStringLiteral("ink ends at %1, literal text is %2 wide").arg(inkEnd(painted)).arg(literalWidth)));
+    QVERIFY(qAbs(inkEnd(painted) - boldWidth) < boldWidth / 5 + 10);
 }
 
 QTEST_MAIN(TestFeatureTreeDelegate)

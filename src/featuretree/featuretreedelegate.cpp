@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QTextDocument>
 
 #include <exception>
 
@@ -202,6 +203,21 @@ void FeatureTreeDelegate::setModelData(QWidget* editor, QAbstractItemModel* mode
     QStyledItemDelegate::setModelData(editor, model, index);
 }
 
+namespace {
+void drawRichText(QPainter* painter, const QRect& rect, const QString& html, const QColor& colour)
+{
+    // The search result line is marked up ("<HTML><B>...</B>"); drawn as plain text its tags would show.
+    // Laid out without margins, in the painter's font and the row's colour, it sits where plain text would.
+    QTextDocument document;
+    document.setDocumentMargin(0);
+    document.setDefaultFont(painter->font());
+    document.setDefaultStyleSheet(QStringLiteral("body { color: %1; }").arg(colour.name()));
+    document.setHtml(html);
+    painter->translate(rect.topLeft());
+    document.drawContents(painter, QRectF(0, 0, rect.width(), rect.height()));
+}
+} // namespace
+
 void FeatureTreeDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const
 {
     if (index.column() != 0 || !m_highlighter || index.data(FeatureTreeItem::IsCategoryRole).toBool()) {
@@ -240,6 +256,10 @@ void FeatureTreeDelegate::paint(QPainter* painter, QStyleOptionViewItem const& o
     painter->save();
     painter->setPen(brush.color());
     const int top = textRect.top() + int(textRect.height() / 2.0 - painter->fontMetrics().height() / 2.0);
-    painter->drawText(QRect(QPoint(textRect.left(), top), textRect.bottomRight()), 0, text);
+    const QRect drawRect(QPoint(textRect.left(), top), textRect.bottomRight());
+    if (special && text.startsWith(QLatin1String("<HTML>"), Qt::CaseInsensitive))
+        drawRichText(painter, drawRect, text, brush.color());
+    else
+        painter->drawText(drawRect, 0, text);
     painter->restore();
 }

@@ -1,6 +1,7 @@
 #include "featuretreeinodeitem.h"
 
 #include "featuretreehighlighter.h"
+#include "featuretreemodel.h"
 #include "ifeaturetreemodelextension.h"
 #include "messages/exceptionlogging.h"
 #include "nodemapname.h"
@@ -10,9 +11,88 @@
 #include "parameters/iintegerparameter.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QUuid>
+#include <QVarLengthArray>
+#include <QVector>
 
 using namespace ParameterCollection;
+
+namespace {
+
+// The items subscribed to the parameters' change signal.
+//
+// A tree of the largest cameras has 100 000 items; a connection of its own
+// from each parameter to each item cost two connection lists (the parameter's
+// as sender, the item's as receiver) and the parsing of two signatures per
+// item: about a third of the bytes of a row and much of the time to build it.
+// Instead each parameter has one connection, made on the first item that
+// subscribes and dropped with the last, to one context object that hands the
+// snapshot to the items in the order they subscribed, the tree's item before
+// its favourite twin. Delivery stays an automatic connection on the thread of
+// the items, so a signal from the parameter layer's own thread is queued as
+// before.
+struct Subscription
+{
+    FeatureTreeINodeItem* first = nullptr;
+    QVector<FeatureTreeINodeItem*> more; // a favourite twin, rarely more
+};
+
+struct Subscriptions
+{
+    QObject context;
+    QHash<const IParameter*, Subscription> byParameter;
+
+    void deliver(const IParameter* parameter, const QSharedPointer<const ParameterData>& data)
+    {
+        const auto found = byParameter.constFind(parameter);
+        if (found == byParameter.constEnd())
+            return;
+        // A copy: an item's update may reach code that subscribes or unsubscribes.
+        QVarLengthArray<FeatureTreeINodeItem*, 4> items;
+        items.append(found->first);
+        for (FeatureTreeINodeItem* item : found->more)
+            items.append(item);
+        for (FeatureTreeINodeItem* item : items) {
+            if (isSubscribed(parameter, item))
+                item->onParameterDataChanged(data);
+        }
+    }
+
+    bool isSubscribed(const IParameter* parameter, const FeatureTreeINodeItem* item) const
+    {
+        const auto found = byParameter.constFind(parameter);
+        return found != byParameter.constEnd()
+            && (found->first == item || found->more.contains(const_cast<FeatureTreeINodeItem*>(item)));
+    }
+};
+
+// GetNodemapName() for an item's full name. The answer depends only on the
+// text before the first "/" after the leading character, and the rows of one
+// node map are built in long runs: the last answer is kept with that prefix,
+// which spares the split of every full name into parts.
+QString translationContextOf(const QString& fullName)
+{
+    thread_local QString lastPrefix;
+    thread_local QString lastContext;
+    const int slash = fullName.indexOf(QLatin1Char('/'), 1);
+    const QStringRef prefix = slash >= 0 ? fullName.leftRef(slash) : QStringRef(&fullName);
+    if (slash < 0 || lastPrefix.isNull() || prefix != lastPrefix) {
+        lastContext = GetNodemapName(fullName);
+        lastPrefix = slash >= 0 ? prefix.toString() : QString();
+    }
+    return lastContext;
+}
+
+Subscriptions& subscriptions()
+{
+    // Made on the thread of the first item, which is the thread of the widgets,
+    // and kept to the end of the process: items may be freed as late as that.
+    static Subscriptions* const instance = new Subscriptions;
+    return *instance;
+}
+
+} // namespace
 
 FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
     QSharedPointer<IParameter> node, const QString& displayedName, IFeatureTreeModelExtension* extension,
@@ -21,7 +101,7 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     , m_collection(std::move(collection))
     , m_node(std::move(node))
     , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(GetNodemapName(fullName))
+    , m_translationContext(translationContextOf(fullName))
 {
     initInternal();
 }
@@ -33,36 +113,72 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     , m_collection(std::move(collection))
     , m_node(std::move(node))
     , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(GetNodemapName(fullName))
+    , m_translationContext(translationContextOf(fullName))
 {
-    initInternal();
+    QString displayName;
+    initInternal(&displayName);
     try {
-        if (m_node && !m_node->isZombie()) {
-            connect(m_node.data(),
-                SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)), this,
-                SLOT(onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)),
-                Qt::AutoConnection);
-        }
+        if (m_node && !m_node->isZombie())
+            subscribe();
     } catch (...) {
         // A zombie test that throws leaves the item unsubscribed, showing what it cached.
         ExceptionLogging::logCurrentException("FeatureTreeINodeItem", QStringLiteral("Failed to subscribe to a node"));
     }
-    setDisplayedName(m_displayName);
+    setDisplayedName(displayName);
 }
 
 FeatureTreeINodeItem::~FeatureTreeINodeItem()
 {
+    unsubscribe();
     clearChildren();
 }
 
-void FeatureTreeINodeItem::initInternal()
+void FeatureTreeINodeItem::subscribe()
+{
+    Subscriptions& all = subscriptions();
+    IParameter* parameter = m_node.data();
+    Subscription& subscription = all.byParameter[parameter];
+    if (!subscription.first) {
+        subscription.first = this;
+        connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
+            [parameter](QSharedPointer<const ParameterData> data) { subscriptions().deliver(parameter, data); });
+    } else {
+        subscription.more.append(this);
+    }
+    m_subscribed = true;
+}
+
+void FeatureTreeINodeItem::unsubscribe()
+{
+    if (!m_subscribed)
+        return;
+    m_subscribed = false;
+    Subscriptions& all = subscriptions();
+    const auto found = all.byParameter.find(m_node.data());
+    if (found == all.byParameter.end())
+        return;
+    if (found->first == this) {
+        if (found->more.isEmpty()) {
+            // The parameter's only connection to the context.
+            QObject::disconnect(m_node.data(), &IParameter::parameterDataChangedDecoupled, &all.context, nullptr);
+            all.byParameter.erase(found);
+            return;
+        }
+        found->first = found->more.takeFirst();
+    } else {
+        found->more.removeOne(this);
+    }
+}
+
+void FeatureTreeINodeItem::initInternal(QString* displayName)
 {
     m_childrenFetched = true;
     if (!m_node) {
         m_editorType = EditorInvalid;
         m_parameterData = ParameterData::createPlaceholder();
         m_name = QStringLiteral("Unknown");
-        m_displayName = m_name;
+        if (displayName)
+            *displayName = m_name;
         return;
     }
 
@@ -72,7 +188,9 @@ void FeatureTreeINodeItem::initInternal()
             m_descriptionText = access->getProperty(QStringLiteral("Description"), QString());
             m_toolTipText = access->getProperty(QStringLiteral("Tooltip"), QString());
             m_docuUrl = access->getProperty(QStringLiteral("DocuURL"), QString());
-            m_displayName = access->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+            const QString shownName = access->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+            if (displayName)
+                *displayName = shownName;
             m_name = m_node->getName();
         }
     } catch (...) {
@@ -119,15 +237,7 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
         if (column == 0) {
             switch (role) {
             case Qt::DisplayRole:
-                if (m_unit.isEmpty())
-                    return m_displayedName;
-                // Painting and every search pass ask for this text: build it once
-                // per displayed name instead of on every request.
-                if (m_titleWithUnit.isNull() || m_titleBuiltFrom != m_displayedName) {
-                    m_titleBuiltFrom = m_displayedName;
-                    m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
-                }
-                return m_titleWithUnit;
+                return displayText();
             case Qt::ToolTipRole:
                 return toolTip();
             case Qt::ForegroundRole:
@@ -177,6 +287,23 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
         ExceptionLogging::logCurrentException("data", QStringLiteral("Exception fired when trying to access a node"));
         return QStringLiteral("<error!>");
     }
+}
+
+const QString& FeatureTreeINodeItem::displayText() const
+{
+    if (m_unit.isEmpty())
+        return m_displayedName;
+    // Painting and every search pass ask for this text: build it once
+    // per displayed name instead of on every request.
+    // The title was built from the present displayed name when it is that name
+    // followed by " [<unit>]"; the unit never changes.
+    const bool current = !m_titleWithUnit.isNull()
+        && m_titleWithUnit.size() == m_displayedName.size() + m_unit.size() + 3
+        && m_titleWithUnit.startsWith(m_displayedName);
+    if (!current) {
+        m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+    }
+    return m_titleWithUnit;
 }
 
 QVariant FeatureTreeINodeItem::valueDisplayText() const
@@ -428,5 +555,10 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         return;
     }
     m_parameterData = data;
-    emit nodeUpdated(row(), this);
+    const int itemRow = row();
+    // The model that built the item learns first, as a connection made when the
+    // item was built would, and not while the item's signals are blocked.
+    if (m_model && !signalsBlocked())
+        m_model->onNodeUpdated(itemRow, this);
+    emit nodeUpdated(itemRow, this);
 }

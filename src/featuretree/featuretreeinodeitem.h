@@ -8,6 +8,7 @@
 #include <QSharedPointer>
 
 class FeatureTreeHighlighter;
+class FeatureTreeModel;
 
 /*!
  * An item that stands for one parameter. It caches what the tree shows of the
@@ -69,9 +70,17 @@ public slots:
     void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> data);
 
 private:
-    void initInternal();
+    friend class FeatureTreeModel;
+    friend class FeatureTreeProxyModel;
+
+    //! Caches what the tree shows of the node; gives its display name where asked.
+    void initInternal(QString* displayName = nullptr);
+    void subscribe();
+    void unsubscribe();
     QVariant toolTip() const;
     QVariant valueDisplayText() const;
+    //! Qt::DisplayRole of the name column, without a QVariant around it.
+    const QString& displayText() const;
 
     QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
     QSharedPointer<ParameterCollection::IParameter> m_node;
@@ -83,8 +92,10 @@ private:
     QString m_descriptionText;
     QString m_toolTipText;
     QString m_docuUrl;
-    QString m_displayName;
     QString m_name;
     mutable QString m_titleWithUnit; // "<displayed name> [<unit>]", built on first request
-    mutable QString m_titleBuiltFrom; // the displayed name it was built from
+    // The model that built the item and is told of its updates directly
+    // (see FeatureTreeModel::connectItem); it owns the item, so outlives it.
+    FeatureTreeModel* m_model = nullptr;
+    bool m_subscribed = false;
 };

@@ -27,6 +27,20 @@ QString favoriteFullName(const FavoritesData::FavoritesDataItem& favorite)
     return QStringLiteral("Fav*%1*%2").arg(stem, favorite.name);
 }
 
+// The parameter holds the same name as the list of children already: keeping
+// its copy instead of the list's frees a string of some 100 bytes per row. A
+// parameter that can't tell its name just keeps the list's.
+QString sharedFullName(const IParameter& parameter, const QString& listed)
+{
+    try {
+        const QString own = parameter.getFullName();
+        if (own == listed)
+            return own;
+    } catch (...) {
+    }
+    return listed;
+}
+
 } // namespace
 
 FavoritesData FeatureTreeModel::m_favorites(nullptr);
@@ -129,7 +143,8 @@ QVariant FeatureTreeModel::data(const QModelIndex& index, int role) const
         return QVariant();
     // One dialog per run of failing reads: a successful read rearms it.
     try {
-        const QVariant result = item->data(index.column(), role);
+        // Not const: returned by move, not by a copy of the variant.
+        QVariant result = item->data(index.column(), role);
         m_errorShown = false;
         return result;
     } catch (const GenICam::GenericException&) {
@@ -262,8 +277,11 @@ Qt::DropActions FeatureTreeModel::supportedDropActions() const
 
 void FeatureTreeModel::connectItem(FeatureTreeINodeItem* item)
 {
-    connect(
-        item, SIGNAL(nodeUpdated(int, FeatureTreeINodeItem*)), this, SLOT(onNodeUpdated(int, FeatureTreeINodeItem*)));
+    // The item calls onNodeUpdated() itself, before it emits nodeUpdated. A
+    // connection per item cost the item a connection list of its own, some
+    // 200 bytes a row, and the parsing of two signatures for every row built.
+    // The model owns every item it connects, so the pointer never outlives it.
+    item->m_model = this;
 }
 
 void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollection> collection,
@@ -327,7 +345,8 @@ void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
             // visibility stay and are filtered by the proxy.
             if (parameter->getType() == TypeCategory && parameter->getVisibility() > GenApi::Guru)
                 continue;
-            auto* item = new FeatureTreeINodeItem(collection, parameter, this, name, nodeItem, m_textAsUtf8);
+            const QString fullName = sharedFullName(*parameter, name);
+            auto* item = new FeatureTreeINodeItem(collection, parameter, this, fullName, nodeItem, m_textAsUtf8);
             item->setHighlighter(m_highlighter);
             item->SetIsFullRowItem(false);
             item->SetIsSpecialNode(false);

@@ -116,6 +116,8 @@ public slots:
     void onTimerPoll() override;
 
 private:
+    friend class FeatureTreeProxyModel;
+
     FeatureTreeItem* itemFromIndex(const QModelIndex& index) const;
     void connectItem(FeatureTreeINodeItem* item);
     void updateFavoritesRootToolTip();

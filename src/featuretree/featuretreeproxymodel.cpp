@@ -1,6 +1,8 @@
 #include "featuretreeproxymodel.h"
 
 #include "favoritesdata.h"
+#include "featuretreefavoritesitem.h"
+#include "featuretreeinodeitem.h"
 #include "featuretreeitem.h"
 #include "featuretreemodel.h"
 
@@ -17,12 +19,12 @@ FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
 
 int FeatureTreeProxyModel::getVisibleMatchCount() const
 {
-    return m_visibleMatches.count();
+    return m_visibleMatches.count;
 }
 
 int FeatureTreeProxyModel::getInvisibleMatchCount() const
 {
-    return m_invisibleMatches.count();
+    return m_invisibleMatches.count;
 }
 
 FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel()
@@ -63,11 +65,78 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex& parent) const
 
 bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
 {
-    const QRegExp pattern = filterRegExp();
+    if (!m_patternCached)
+        m_pattern = filterRegExp();
     // A fixed string, as the widget sets it, needs no regular expression machinery.
-    if (pattern.patternSyntax() == QRegExp::FixedString)
-        return text.contains(pattern.pattern(), pattern.caseSensitivity());
-    return pattern.indexIn(text) != -1;
+    if (m_pattern.patternSyntax() == QRegExp::FixedString)
+        return text.contains(m_pattern.pattern(), m_pattern.caseSensitivity());
+    return m_pattern.indexIn(text) != -1;
+}
+
+namespace {
+
+// What the filter reads of a row: the same as IsCategoryRole, NodeNameRole,
+// ShowMeRole, VisibilityRole and Qt::DisplayRole of the name column give. The
+// texts point into the item where it is read directly, else into the copies
+// below.
+struct FilterFields
+{
+    bool isCategory = false;
+    const QString* name = nullptr;
+    bool showMe = false;
+    int visibility = 0;
+    const QString* displayText = nullptr;
+    QString nameCopy;
+    QString displayTextCopy;
+};
+
+const QString emptyText;
+
+} // namespace
+
+bool FeatureTreeProxyModel::readFilterFields(const QModelIndex& index, void* fieldsOut) const
+{
+    // A search pass reads these five roles of every row several times (the
+    // row, its ancestors, its children): reading them from the items of a
+    // FeatureTreeModel directly spares the virtual data() call, the QVariant
+    // around each value and the exception guard around each read, which was
+    // about half of a keystroke's time on a large tree. Any other model, and
+    // item classes this code doesn't know, are read through data().
+    auto& fields = *static_cast<FilterFields*>(fieldsOut);
+    if (!m_sourceIsFeatureTreeModel)
+        return false;
+    const FeatureTreeItem* item = static_cast<const FeatureTreeItem*>(index.internalPointer());
+    if (!item)
+        return false;
+    const QMetaObject* kind = item->metaObject();
+    if (kind == &FeatureTreeINodeItem::staticMetaObject) {
+        const auto* nodeItem = static_cast<const FeatureTreeINodeItem*>(item);
+        if (nodeItem->m_parameterData && nodeItem->m_node) {
+            fields.isCategory = nodeItem->m_parameterData->type == ParameterCollection::TypeCategory;
+            fields.name = &nodeItem->m_name;
+            fields.showMe = nodeItem->FeatureTreeINodeItem::ShowMe(GenApi::Guru);
+            fields.visibility = nodeItem->FeatureTreeINodeItem::getVisibility();
+            fields.displayText = &nodeItem->displayText();
+        } else {
+            // Without parameter or snapshot every role is an invalid QVariant.
+            fields.name = &emptyText;
+            fields.displayText = &emptyText;
+        }
+    } else if (kind == &FeatureTreeItem::staticMetaObject) {
+        fields.nameCopy = item->getFullName();
+        fields.name = &fields.nameCopy;
+        fields.showMe = item->FeatureTreeItem::ShowMe(GenApi::Guru);
+        fields.visibility = item->FeatureTreeItem::getVisibility();
+        fields.displayTextCopy = item->getDisplayedName();
+        fields.displayText = &fields.displayTextCopy;
+    } else if (kind == &FeatureTreeFavoritesItem::staticMetaObject) {
+        fields.isCategory = true;
+    } else {
+        return false;
+    }
+    // A read through the model rearms its error dialog; so does this one.
+    static_cast<const FeatureTreeModel*>(sourceModel())->m_errorShown = false;
+    return true;
 }
 
 bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIndex& sourceParent) const
@@ -79,30 +148,48 @@ bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIn
     if (!index.isValid())
         return false;
 
+    if (!m_patternCached)
+        m_sourceIsFeatureTreeModel = source->metaObject() == &FeatureTreeModel::staticMetaObject;
+    FilterFields fields;
+    const bool direct = readFilterFields(index, &fields);
     // Categories are never hits: searching finds features, and categories show
     // only as the path to them. Asked first, so that the many ancestor and
     // category checks of a pass cost one read each.
-    const bool isCategory = source->data(index, FeatureTreeItem::IsCategoryRole).toBool();
-    if (isCategory)
+    if (!direct)
+        fields.isCategory = source->data(index, FeatureTreeItem::IsCategoryRole).toBool();
+    if (fields.isCategory)
         return false;
 
-    const QString name = source->data(index, FeatureTreeItem::NodeNameRole).toString();
+    if (!direct) {
+        fields.nameCopy = source->data(index, FeatureTreeItem::NodeNameRole).toString();
+        fields.name = &fields.nameCopy;
+    }
+    const QString& name = *fields.name;
     // A node map's root is never a hit and never counted.
     if (name == QLatin1String("Root"))
         return false;
-    const bool showMe = source->data(index, FeatureTreeItem::ShowMeRole).toBool();
-    if (!showMe && m_visibility != GenApi::Invisible)
+    if (!direct)
+        fields.showMe = source->data(index, FeatureTreeItem::ShowMeRole).toBool();
+    if (!fields.showMe && m_visibility != GenApi::Invisible)
         return false;
-    const int visibility = source->data(index, FeatureTreeItem::VisibilityRole).toInt();
+    if (!direct)
+        fields.visibility = source->data(index, FeatureTreeItem::VisibilityRole).toInt();
+    const int visibility = fields.visibility;
     const bool shown = visibility <= m_visibility;
 
-    bool hit = false;
-    if (matchesFilter(name) || matchesFilter(source->data(index, Qt::DisplayRole).toString())) {
+    bool hit = matchesFilter(name);
+    if (!hit) {
+        if (!direct) {
+            fields.displayTextCopy = source->data(index, Qt::DisplayRole).toString();
+            fields.displayText = &fields.displayTextCopy;
+        }
+        hit = matchesFilter(*fields.displayText);
+    }
+    if (hit) {
         if (visibility <= GenApi::Guru && visibility > m_visibility)
-            m_invisibleMatches.insert(name, true);
+            m_invisibleMatches.insert(name);
         if (visibility <= m_visibility)
-            m_visibleMatches.insert(name, true);
-        hit = true;
+            m_visibleMatches.insert(name);
     }
     // The search help line passes without matching.
     // (Its name role is its full name, so only a row named "Search" needs the look.)
@@ -142,11 +229,33 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& s
 {
     // Filtering always begins at the first top-level row: a new pass, new counts.
     if (sourceRow == 0 && !sourceParent.isValid()) {
-        m_visibleMatches.clear();
-        m_invisibleMatches.clear();
+        m_visibleMatches.startPass();
+        m_invisibleMatches.startPass();
     }
     if (m_addingCollection)
         return true;
+    // The row, its ancestors and its children are each matched against the
+    // filter, and the filter's pattern is only to be had as a copy, which
+    // costs about as much as filtering the row. A new filter text or a new
+    // source makes QSortFilterProxyModel filter the top level before any
+    // level below it, so the copy is taken on the top-level rows only (a
+    // handful per pass) and kept for the rows below them.
+    if (!sourceParent.isValid() || !m_patternKnown) {
+        m_pattern = filterRegExp();
+        m_patternKnown = true;
+        const QAbstractItemModel* source = sourceModel();
+        m_sourceIsFeatureTreeModel = source && source->metaObject() == &FeatureTreeModel::staticMetaObject;
+    }
+    // (Filling a category can insert rows and filter them inside this call.)
+    const bool wasCached = m_patternCached;
+    m_patternCached = true;
+    const bool accepted = filterAcceptsRowOrRelative(sourceRow, sourceParent);
+    m_patternCached = wasCached;
+    return accepted;
+}
+
+bool FeatureTreeProxyModel::filterAcceptsRowOrRelative(int sourceRow, const QModelIndex& sourceParent) const
+{
     if (filterAcceptsRowItself(sourceRow, sourceParent))
         return true;
     // The descendants of a hit stay visible.

@@ -4,6 +4,7 @@
 #include "zarvexviewercomponents_export.h"
 
 #include <QHash>
+#include <QRegExp>
 #include <QSortFilterProxyModel>
 
 class FeatureTreeModel;
@@ -106,10 +107,47 @@ private:
     //! Lets the model fill the source level below parent, outside any mapping of the base class.
     void fillSourceLevel(const QModelIndex& parent) const;
     bool matchesFilter(const QString& text) const;
+    bool filterAcceptsRowOrRelative(int sourceRow, const QModelIndex& sourceParent) const;
+    //! Fills the filter's fields of a row from its item; false where only data() can tell.
+    bool readFilterFields(const QModelIndex& index, void* fieldsOut) const;
 
     bool m_addingCollection = false;
     GenApi::EVisibility m_visibility = GenApi::Guru;
-    // Used as sets, keyed by the feature's name; filled during const filtering.
-    mutable QHash<QString, bool> m_visibleMatches;
-    mutable QHash<QString, bool> m_invisibleMatches;
+    // The names that matched in the present filtering pass. Each name keeps
+    // the number of the last pass that saw it, so that a new pass costs a
+    // counter instead of freeing and allocating a table entry per feature
+    // again; on a large tree that was a tenth of a keystroke.
+    struct MatchSet
+    {
+        QHash<QString, quint32> lastPass;
+        quint32 pass = 1;
+        int count = 0;
+
+        void startPass()
+        {
+            // Names no longer seen are dropped now and then, not on every pass.
+            if (lastPass.size() > 2 * count + 1024)
+                lastPass.clear();
+            ++pass;
+            count = 0;
+        }
+        void insert(const QString& name)
+        {
+            quint32& seen = lastPass[name];
+            if (seen != pass) {
+                seen = pass;
+                ++count;
+            }
+        }
+    };
+    // Filled during const filtering.
+    mutable MatchSet m_visibleMatches;
+    mutable MatchSet m_invisibleMatches;
+    // The filter's pattern as of the last top-level row filtered; used while
+    // filterAcceptsRow() runs (m_patternCached).
+    mutable QRegExp m_pattern;
+    mutable bool m_patternKnown = false;
+    mutable bool m_patternCached = false;
+    // The source is a FeatureTreeModel itself, not a class derived from it.
+    mutable bool m_sourceIsFeatureTreeModel = false;
 };
