@@ -7,6 +7,7 @@
 // handled without a sanitizer report and leave the favourites without an
 // empty name and without two equal entries.
 
+#include "favouritescheck.h"
 #include "featuretree/favoritesdata.h"
 #include "featuretree/featuretreeitem.h"
 #include "featuretree/featuretreemodel.h"
@@ -76,14 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     // Twice: the second drop moves what the first added.
     model->dropMimeData(&mime, Qt::CopyAction, row / 2, 0, model->GetFavoritesRootIndex());
 
-    for (int i = 0; i < store.countNodes(); ++i) {
-        if (store.nodeAt(i)->name.isEmpty())
-            std::abort();
-        for (int j = i + 1; j < store.countNodes(); ++j)
-            if (store.nodeAt(i)->name == store.nodeAt(j)->name
-                && store.nodeAt(i)->nodeMapName == store.nodeAt(j)->nodeMapName)
-                std::abort();
-    }
+    abortOnDamagedFavourites(store);
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return 0;

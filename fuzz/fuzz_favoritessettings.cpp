@@ -4,6 +4,7 @@
 // empty name and without two equal favourites; what was loaded must save and
 // load back to the same number of favourites.
 
+#include "favouritescheck.h"
 #include "featuretree/favoritesdata.h"
 
 #include <QCoreApplication>
@@ -21,18 +22,6 @@ namespace {
 QCoreApplication* application = nullptr;
 QTemporaryDir* directory = nullptr;
 quint64 counter = 0;
-
-void checkList(const FavoritesData& store)
-{
-    for (int i = 0; i < store.countNodes(); ++i) {
-        if (store.nodeAt(i)->name.isEmpty())
-            std::abort();
-        for (int j = i + 1; j < store.countNodes(); ++j)
-            if (store.nodeAt(i)->name == store.nodeAt(j)->name
-                && store.nodeAt(i)->nodeMapName == store.nodeAt(j)->nodeMapName)
-                std::abort();
-    }
-}
 
 } // namespace
 
@@ -64,14 +53,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     {
         FavoritesData store;
         store.LoadFavorites(QStringLiteral("Favorites"));
-        checkList(store);
+        abortOnDamagedFavourites(store);
         loaded = store.countNodes();
         store.SaveFavorites(QStringLiteral("Saved"));
     }
     {
         FavoritesData again;
         again.LoadFavorites(QStringLiteral("Saved"));
-        checkList(again);
+        abortOnDamagedFavourites(again);
         if (again.countNodes() != loaded)
             std::abort();
     }
