@@ -10,6 +10,9 @@
 //  - the favourites store equals the shadow list the driver keeps.
 // A failure prints the seed and the step count that replay it exactly:
 //   tst_chaos --seed N --steps M        (or ZVC_CHAOS_SEED / ZVC_CHAOS_STEPS)
+// --features N (ZVC_CHAOS_FEATURES) sizes the synthetic node map (10 000 by
+// default). ZVC_CHAOS_CHECK_COUNTS adds the match count check, ZVC_CHAOS_CLEAR
+// the clearing of the tree, ZVC_CHAOS_TRACE prints every step.
 
 #include "../featuretreewidgettestsupport.h"
 
