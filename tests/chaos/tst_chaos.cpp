@@ -84,6 +84,7 @@ private:
     QModelIndex randomRow(bool onlyShown);
     QModelIndex randomFeatureRow();
     QSharedPointer<ParameterCollection::IParameter> randomParameter();
+    QString randomFullName();
     QString step(int kind);
     QString checkInvariants(const QString& what);
     QString checkCounts();
@@ -211,6 +212,18 @@ QModelIndex TestChaos::randomFeatureRow()
             return index;
     }
     return QModelIndex();
+}
+
+QString TestChaos::randomFullName()
+{
+    const Simulation::DeviceDescription& description
+        = chance(30) ? m_synthetic->description() : m_device->description();
+    if (description.nodeMaps.isEmpty())
+        return QString();
+    const Simulation::NodeMapDescription& map = description.nodeMaps.at(pick(description.nodeMaps.size()));
+    if (map.features.isEmpty())
+        return QString();
+    return map.name + QLatin1Char('/') + map.features.at(pick(map.features.size())).name;
 }
 
 QSharedPointer<ParameterCollection::IParameter> TestChaos::randomParameter()
@@ -388,15 +401,9 @@ QString TestChaos::step(int kind)
         return QStringLiteral("save and restore state");
     }
     case 8: { // a value or a range changes on the device
-        const QSharedPointer<ParameterCollection::IParameter> parameter = randomParameter();
-        if (!parameter)
+        const QString name = randomFullName();
+        if (name.isEmpty())
             return QStringLiteral("device change: nothing");
-        QString name;
-        try {
-            name = parameter->getFullName();
-        } catch (...) {
-            return QStringLiteral("device change: name refused");
-        }
         const QVariant value = chance(50) ? QVariant(pick(2000) - 500) : QVariant(double(pick(10000)) / 7.0);
         m_device->changeOnDevice(name, value);
         m_synthetic->changeOnDevice(name, value);
@@ -419,17 +426,11 @@ QString TestChaos::step(int kind)
         return QStringLiteral("property %1 %2").arg(isAccess ? "access" : "visibility", value);
     }
     case 10: { // a fault on a random operation, a null snapshot, or all cleared
-        const QSharedPointer<ParameterCollection::IParameter> parameter = randomParameter();
-        if (chance(30) || !parameter) {
+        const QString name = randomFullName();
+        if (chance(30) || name.isEmpty()) {
             m_device->clearFaults();
             m_synthetic->clearFaults();
             return QStringLiteral("clear faults");
-        }
-        QString name;
-        try {
-            name = parameter->getFullName();
-        } catch (...) {
-            return QStringLiteral("fault: name refused");
         }
         if (chance(20)) {
             m_device->setNullSnapshot(name, chance(70));
