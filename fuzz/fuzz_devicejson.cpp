@@ -55,5 +55,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             // A described feature may refuse a value; that is no fault of the parser.
         }
     }
+    // There is no event loop: deliver the change signals the device queued,
+    // which hold its data, so that nothing is left over from this input.
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return 0;
 }
