@@ -55,6 +55,7 @@ private slots:
     void levelChangeOnAnUnpluggedCameraIsKept();
     void resetOnAnUnpluggedCameraLeavesNoWaitCursor();
     void secondWidgetOnAnUnpluggedCameraIsBuilt();
+    void movingTheLastFavouriteDownKeepsIt();
 
 private:
     void build()
@@ -433,6 +434,28 @@ void TestFeatureTreeWidgetCamera::secondWidgetOnAnUnpluggedCameraIsBuilt()
     }
     QVERIFY(second.getFeatureExtension());
     m_device->replug();
+}
+
+// The move actions may still be enabled from an earlier current row; moving
+// the last favourite down (or the first up) must leave the list as it is.
+void TestFeatureTreeWidgetCamera::movingTheLastFavouriteDownKeepsIt()
+{
+    FavoritesData& store = FeatureTreeModel::m_favorites;
+    m_widget->treeView()->setCurrentIndex(find("Width", 0));
+    m_widget->findChild<QAction*>(QStringLiteral("actionAddToFavourites"))->trigger();
+    QCOMPARE(store.countNodes(), 1);
+    const QModelIndex favourite
+        = m_widget->treeView()->model()->index(0, 0, m_widget->getFeatureExtension()->GetFavoritesRootIndex());
+    QVERIFY(favourite.isValid());
+    m_widget->treeView()->setCurrentIndex(favourite);
+    auto* down = m_widget->findChild<QAction*>(QStringLiteral("actionMoveFavouriteDown"));
+    auto* up = m_widget->findChild<QAction*>(QStringLiteral("actionMoveFavouriteUp"));
+    down->setEnabled(true); // as left over from a row that could move
+    up->setEnabled(true);
+    down->trigger();
+    up->trigger();
+    QCOMPARE(store.countNodes(), 1);
+    QCOMPARE(store.nodeAt(0)->name, QStringLiteral("Width"));
 }
 
 QTEST_MAIN(TestFeatureTreeWidgetCamera)

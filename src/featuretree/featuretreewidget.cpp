@@ -521,14 +521,20 @@ void FeatureTreeWidget::AddToFavourites_triggered()
 void FeatureTreeWidget::FavouriteMoveUp_triggered()
 {
     const QModelIndex index = GetCurrentIndex();
-    if (IFeatureTreeModelExtension* extension = getFeatureExtension(); extension && index.isValid())
+    // The action's enabled state may be older than the list: a move past
+    // either end would take the favourite out of the store for good.
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension();
+        extension && index.isValid() && extension->CanMoveFavorite(index, true))
         extension->MoveFavorite(index, true);
 }
 
 void FeatureTreeWidget::FavouriteMoveDown_triggered()
 {
     const QModelIndex index = GetCurrentIndex();
-    if (IFeatureTreeModelExtension* extension = getFeatureExtension(); extension && index.isValid())
+    // The action's enabled state may be older than the list: a move past
+    // either end would take the favourite out of the store for good.
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension();
+        extension && index.isValid() && extension->CanMoveFavorite(index, false))
         extension->MoveFavorite(index, false);
 }
 
