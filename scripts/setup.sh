@@ -10,6 +10,7 @@ packages=(
     xvfb xauth
     libaravis-dev libusb-1.0-0-dev aravis-tools-cli
     breeze-icon-theme librsvg2-bin
+    fonts-noto-cjk
 )
 # Extra packages a caller may ask for, e.g. the fuzzer's compiler.
 packages+=("$@")

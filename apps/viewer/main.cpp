@@ -1,7 +1,8 @@
-// zarvex-viewer: shows the simulated camera, or a real one through Aravis. Until the feature tree widget is
-// in place, it prints each node map as an indented tree of names and values.
+// zarvex-viewer: shows the features of the simulated camera, or of a real one through Aravis, in a window;
+// with --print it prints each node map as an indented tree of names and values instead, for terminals.
 
 #include "nodemapprinter.h"
+#include "viewermainwindow.h"
 
 #include "simulateddevice.h"
 
@@ -10,18 +11,94 @@
 #include "aravisnodemap.h"
 #endif
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QImage>
+#include <QListWidget>
+#include <QPixmap>
 #include <QTextStream>
+#include <QTimer>
+
+#include <cstring>
+#include <memory>
+
+namespace {
+
+//! The printing mode runs without a display, so it must not make a QApplication.
+bool wantsPrinting(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--print") == 0 || std::strcmp(argv[i], "-print") == 0)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+namespace {
+
+int showWindow(const QCommandLineParser& parser, const QCommandLineOption& deviceOption,
+    const QCommandLineOption& transportOption, const QCommandLineOption& aravisOption,
+    const QCommandLineOption& screenshotOption, const QCommandLineOption& languageOption)
+{
+    ViewerMainWindow window;
+    for (const QString& file : parser.values(deviceOption)) {
+        QString error;
+        if (!window.addDeviceFile(file, &error)) {
+            QTextStream(stderr) << "zarvex-viewer: " << error << '\n';
+            return 1;
+        }
+    }
+    const bool screenshot = parser.isSet(screenshotOption);
+    if (!screenshot)
+        window.restoreSettings();
+    if (parser.isSet(languageOption) && !window.setLanguage(parser.value(languageOption)))
+        return 1;
+    // An explicit choice on the command line wins over the last camera.
+    QListWidget* cameras = window.cameraList();
+    if (parser.isSet(deviceOption))
+        window.openCamera(cameras->count() - 1);
+    else if (parser.isSet(transportOption) || screenshot)
+        window.openCamera(qMax(0, ViewerMainWindow::simulatedTransportTypes().indexOf(parser.value(transportOption))));
+    if (parser.isSet(aravisOption))
+        window.discoverAravisCameras();
+    window.show();
+    if (screenshot)
+        window.selectFeature(QStringLiteral("@CameraDevice/ExposureTime"));
+    if (!screenshot)
+        return QApplication::exec();
+
+    // Let the window lay itself out and the tree fill before taking the picture.
+    QTimer::singleShot(300, &window, [&window, &parser, &screenshotOption] {
+        const QString file = parser.value(screenshotOption);
+        const QImage image = window.grab().toImage();
+        if (!image.save(file, "PNG")) {
+            QTextStream(stderr) << "zarvex-viewer: cannot write " << file << '\n';
+            QCoreApplication::exit(1);
+            return;
+        }
+        QCoreApplication::exit(0);
+    });
+    return QApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
-    QCoreApplication app(argc, argv);
+    std::unique_ptr<QCoreApplication> application;
+    if (wantsPrinting(argc, argv))
+        application.reset(new QCoreApplication(argc, argv));
+    else
+        application.reset(new QApplication(argc, argv));
+    QCoreApplication& app = *application;
     QCoreApplication::setOrganizationName(QStringLiteral("Zarvex"));
     QCoreApplication::setApplicationName(QStringLiteral("zarvex-viewer"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Shows the features of a simulated camera."));
+    parser.setApplicationDescription(QStringLiteral("Shows the features of a simulated or a real camera."));
     parser.addHelpOption();
     const QCommandLineOption transportOption(QStringLiteral("transport"),
         QStringLiteral("Transport-layer type: GEV, U3V, IIDC, CamEmu, ..."), QStringLiteral("type"),
@@ -31,7 +108,12 @@ int main(int argc, char** argv)
     const QCommandLineOption depthOption(QStringLiteral("depth"), QStringLiteral("Deepest level printed."),
         QStringLiteral("levels"), QStringLiteral("100"));
     const QCommandLineOption printOption(
-        QStringLiteral("print"), QStringLiteral("Print the node maps as a tree (the only mode so far)."));
+        QStringLiteral("print"), QStringLiteral("Print the node maps as a tree instead of opening a window."));
+    const QCommandLineOption screenshotOption(QStringLiteral("screenshot"),
+        QStringLiteral("Open the camera, save a picture of the window to the PNG file and exit."),
+        QStringLiteral("file"));
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+        QStringLiteral("Language of the window: en, ja, ko or zh."), QStringLiteral("code"));
     const QCommandLineOption aravisOption(QStringLiteral("aravis"),
         QStringLiteral("Show a real camera through Aravis instead of the simulated one: the camera named by [id], "
                        "else the first one found."));
@@ -40,9 +122,14 @@ int main(int argc, char** argv)
     parser.addOption(depthOption);
     parser.addOption(printOption);
     parser.addOption(aravisOption);
+    parser.addOption(screenshotOption);
+    parser.addOption(languageOption);
     parser.addPositionalArgument(
         QStringLiteral("id"), QStringLiteral("Aravis id of the camera (with --aravis)."), QStringLiteral("[id]"));
     parser.process(app);
+
+    if (!parser.isSet(printOption))
+        return showWindow(parser, deviceOption, transportOption, aravisOption, screenshotOption, languageOption);
 
     QTextStream out(stdout);
     QTextStream err(stderr);

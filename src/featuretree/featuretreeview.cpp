@@ -104,6 +104,10 @@ QString FeatureTreeView::getSettingsPath() const
 
 void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
 {
+    // Held back during a bulk change, before the item is looked up in the
+    // whole tree: endBulkChange() opens what is visible then.
+    if (m_bulkDepth > 0)
+        return;
     IFeatureTreeModelExtension* extension = getFeatureExtension();
     if (!extension)
         return;
@@ -117,6 +121,109 @@ void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
     if (item->getAccessMode() <= GenApi::NA)
         return;
     QAbstractItemView::openPersistentEditor(index);
+    if (indexWidget(index))
+        m_editorIndexes.insert(index);
+}
+
+void FeatureTreeView::beginBulkChange()
+{
+    if (m_bulkDepth++ == 0) {
+        m_editorsClosedForBulk = false;
+        m_bulkEditorVisits = 0;
+    }
+}
+
+void FeatureTreeView::endBulkChange()
+{
+    if (m_bulkDepth == 0) {
+        ZVC_LOGGER.debug("endBulkChange: no bulk change to end");
+        return;
+    }
+    if (--m_bulkDepth > 0)
+        return;
+    openVisibleEditors();
+    placeEditors();
+}
+
+void FeatureTreeView::closeEditorsForBulkChange()
+{
+    if (m_bulkDepth == 0 || m_editorsClosedForBulk)
+        return;
+    // This range, and each one after it, visits every open editor.
+    m_bulkEditorVisits += m_editorIndexes.size();
+    if (m_bulkEditorVisits <= m_bulkEditorBudget && m_bulkEditorBudget > 0)
+        return;
+    m_editorsClosedForBulk = true;
+    // Runs inside the model's row signals: only the base class's bookkeeping
+    // is touched here, not the model.
+    const QModelIndex current = currentIndex();
+    const QList<QPersistentModelIndex> cells = m_editorIndexes.values();
+    m_editorIndexes.clear();
+    for (const QPersistentModelIndex& cell : cells) {
+        if (!cell.isValid())
+            continue;
+        // The current row keeps its editor, with whatever the user has typed into it.
+        if (current.isValid() && cell.row() == current.row() && cell.parent() == current.parent()) {
+            m_editorIndexes.insert(cell);
+            continue;
+        }
+        if (indexWidget(cell))
+            closePersistentEditor(cell);
+    }
+}
+
+void FeatureTreeView::openVisibleEditors(QModelIndex const& parent)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    if (!extension || !model() || m_bulkDepth > 0)
+        return;
+    if (parent.isValid() && !isExpanded(parent))
+        return;
+    // Top to bottom, the order of the view's rows, so that each editor finds
+    // its row next to the one before.
+    const int rows = model()->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        if (isRowHidden(row, parent))
+            continue;
+        const QModelIndex child = model()->index(row, 1, parent);
+        FeatureTreeItem* item = extension->getFeatureTreeItem(child);
+        if (item && item->ShowMe(m_visibility) && item->usePersistentEditor() && !indexWidget(child))
+            openPersistentEditor(child);
+        const QModelIndex name = model()->index(row, 0, parent);
+        if (isExpanded(name))
+            openVisibleEditors(name);
+    }
+}
+
+void FeatureTreeView::updateEditorGeometries()
+{
+    // Every expansion, inserted row range and layout asks for all editors to
+    // be placed again, and placing one looks its row up among all rows of the
+    // view. Expanding a hundred categories with thousands of editors open
+    // made that rows x editors a hundred times over; once per turn of the
+    // event loop is enough, before the next paint.
+    if (m_placingEditors) {
+        QTreeView::updateEditorGeometries();
+        return;
+    }
+    if (m_placeEditorsPosted)
+        return;
+    m_placeEditorsPosted = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_placeEditorsPosted)
+                placeEditors();
+        },
+        Qt::QueuedConnection);
+}
+
+void FeatureTreeView::placeEditors()
+{
+    m_placeEditorsPosted = false;
+    m_placingEditors = true;
+    QTreeView::updateEditorGeometries();
+    m_placingEditors = false;
 }
 
 void FeatureTreeView::forEachValueCell(QModelIndex const& parent,
@@ -134,6 +241,8 @@ void FeatureTreeView::forEachValueCell(QModelIndex const& parent,
 
 void FeatureTreeView::openPersistentEditorsForChildren(QModelIndex const& parent)
 {
+    if (m_bulkDepth > 0)
+        return;
     forEachValueCell(parent, [this](int, QModelIndex const& child, FeatureTreeItem* item) {
         if (item && item->ShowMe(m_visibility) && !indexWidget(child) && item->usePersistentEditor())
             openPersistentEditor(child);
@@ -170,7 +279,15 @@ void FeatureTreeView::updateRows(QModelIndex const& parent)
 void FeatureTreeView::rowsInserted(QModelIndex const& parent, int start, int end)
 {
     QTreeView::rowsInserted(parent, start, end);
+    closeEditorsForBulkChange();
     openPersistentEditorsForChildren(parent);
+}
+
+void FeatureTreeView::rowsAboutToBeRemoved(QModelIndex const& parent, int start, int end)
+{
+    // Before the model walks its persistent indexes for this range.
+    closeEditorsForBulkChange();
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
 }
 
 void FeatureTreeView::currentChanged(QModelIndex const& current, QModelIndex const& previous)
@@ -295,8 +412,10 @@ void FeatureTreeView::dataChanged(QModelIndex const& topLeft, QModelIndex const&
                     QWidget* widget = indexWidget(topLeft);
                     const bool persistent = item->usePersistentEditor();
                     if (widget && persistent) {
-                        if (hidden || access <= GenApi::NA)
+                        if (hidden || access <= GenApi::NA) {
                             closePersistentEditor(topLeft);
+                            m_editorIndexes.remove(topLeft);
+                        }
                     } else if (widget) {
                         if (hidden || !editable)
                             closeEditor(widget, QAbstractItemDelegate::NoHint);

@@ -238,6 +238,9 @@ void FeatureTreeWidget::refreshTree()
     auto* proxy = qobject_cast<FeatureTreeProxyModel*>(ui->treeView->model());
     if (!proxy)
         return;
+    // Both filter passes may move many row ranges: in the bracket the editors
+    // may close, and those of the visible rows open again at its end.
+    featureTreeView()->beginBulkChange();
     // The empty text first forces the filter to run again even if the text has not changed.
     proxy->setFilterFixedString(QString());
     proxy->setFilterFixedString(m_filterText);
@@ -245,6 +248,7 @@ void FeatureTreeWidget::refreshTree()
         expandTree();
     proxy->invalidate();
     proxy->refreshSpecialItems();
+    featureTreeView()->endBulkChange();
 }
 
 void FeatureTreeWidget::expandTree()
@@ -426,6 +430,14 @@ void FeatureTreeWidget::onFilterTextChanged(QString const& newText)
 
     auto* proxy = qobject_cast<FeatureTreeProxyModel*>(ui->treeView->model());
     IFeatureTreeModelExtension* extension = getFeatureExtension();
+    // A new filter text removes or inserts rows range by range, and with
+    // thousands of editors open each range walked all of them: a keystroke
+    // took seconds, clearing the search a minute. In the bracket the view
+    // closes its editors once the ranges have walked them often enough, and
+    // restoring the expansion and expanding the tree open none; the editors
+    // of the visible rows then open in one pass, after expandTree() and
+    // before the repaint, so the repaint shows the same tree as ever.
+    featureTreeView()->beginBulkChange();
     if (proxy) {
         // The user's expansion and current row are kept for the whole search,
         // saved at its first letter and given back when the line is empty again.
@@ -449,8 +461,10 @@ void FeatureTreeWidget::onFilterTextChanged(QString const& newText)
     featureTreeView()->getHightlighter()->setTextToHighlight(newText);
 
     FeatureTreeItem* helpItem = extension ? extension->getSearchHelpItem() : nullptr;
-    if (!newText.isEmpty()) {
+    if (!newText.isEmpty())
         expandTree();
+    featureTreeView()->endBulkChange();
+    if (!newText.isEmpty()) {
         ui->treeView->repaint();
         const int hidden = proxy ? proxy->getInvisibleMatchCount() : 0;
         const int total = hidden + (proxy ? proxy->getVisibleMatchCount() : 0);

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "messages/asyncerrorqueue.h"
+#include "parameters/genapienums.h"
+#include "parameters/iparameter.h"
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QSharedPointer>
+#include <QTranslator>
+
+#include <memory>
+
+class FeatureTreeWidget;
+class QActionGroup;
+class QLabel;
+class QListWidget;
+class QMenu;
+class QProgressBar;
+class ViewerCamera;
+class Ui_ViewerMainWindow;
+
+/*!
+ * The viewer's main window: the camera list, the feature tree of the open
+ * camera and the pane of its current feature, with the menus that show what
+ * the library offers a host. Kept in a library of its own so that tests drive
+ * the very window that the application shows.
+ */
+class ViewerMainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    //! Where a camera of the list comes from; stored with each entry.
+    enum CameraKind { SimulatedCamera = 0, DescribedCamera = 1, AravisCamera = 2 };
+    enum CameraRoles { KindRole = Qt::UserRole + 1, SourceRole };
+
+    explicit ViewerMainWindow(QWidget* parent = nullptr);
+    ~ViewerMainWindow() override;
+
+    //! The transport-layer types on which the default simulated camera is listed.
+    static QStringList simulatedTransportTypes();
+    //! The language codes of the library's catalogues, "en" first.
+    static QStringList languages();
+
+    //! Adds a camera from a JSON description; false, with the reason, if the file is refused.
+    bool addDeviceFile(const QString& path, QString* error = nullptr);
+    //! Looks for real cameras in the background; they join the list when found.
+    void discoverAravisCameras();
+
+    //! Opens the camera in that row of the list; false if it cannot be opened.
+    bool openCamera(int row);
+    int currentCameraRow() const;
+
+    //! Makes the feature with that full name ("@CameraDevice/Gain") the tree's current row; false if absent.
+    bool selectFeature(const QString& fullName);
+
+    //! Installs the library's catalogue for the code ("en", "ja", "ko", "zh") and retranslates.
+    bool setLanguage(const QString& code);
+    QString language() const;
+
+    //! Restores geometry, splitter, tree state, language, level and last camera; opens a camera.
+    void restoreSettings();
+    void saveSettings() const;
+
+    FeatureTreeWidget* featureTree() const;
+    QListWidget* cameraList() const;
+    ViewerCamera* camera() const;
+    QString statusText() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private slots:
+    void on_cameraList_currentRowChanged(int row);
+    void on_levelCombo_activated(int index);
+    void on_actionOpenDevice_triggered();
+    void on_actionPolling_toggled(bool on);
+    void on_actionViewAllFavorites_toggled(bool on);
+    void on_actionCopyTree_triggered();
+    void on_actionIpConfiguration_triggered();
+    void on_actionAskQuestion_triggered();
+    void on_actionResetAnswers_triggered();
+    void on_actionUnplug_triggered();
+    void on_actionReplug_triggered();
+    void on_actionFault_triggered();
+    void on_actionClearFaults_triggered();
+    void on_actionChangeOnDevice_triggered();
+    void on_actionAbout_triggered();
+
+    void onLanguageTriggered(QAction* action);
+    void onContextMenuRequested(QPoint const& point, QSharedPointer<QMenu> menu);
+    void onVisibilityChanged(GenApi::EVisibility visibility);
+    void onPollingStateChanged(bool on);
+    void onViewAllFavoritesStateChanged(bool on);
+    void onFilterMatchesChanged(int total, int hidden);
+    void onDisplayError(AsyncErrorQueue::ErrorSeverity severity, QString text, QString details, QWidget* parent);
+
+private:
+    void addCameraEntry(const QString& text, CameraKind kind, const QString& source);
+    QSharedPointer<ViewerCamera> createCamera(int row, QString* error);
+    void closeCamera();
+    void updateActions();
+    void retranslate();
+    QSharedPointer<ParameterCollection::IParameter> cameraParameter(const QString& name) const;
+    QString readAddress(const QString& name) const;
+    bool writeAddress(const QString& name, const QString& address);
+
+    std::unique_ptr<Ui_ViewerMainWindow> ui;
+    QActionGroup* m_languageGroup = nullptr;
+    QLabel* m_matchesLabel = nullptr;
+    QProgressBar* m_busyBar = nullptr;
+    QPointer<FeatureTreeWidget> m_tree;
+    QSharedPointer<ViewerCamera> m_camera;
+    QByteArray m_treeState;
+    QTranslator m_translator;
+    QString m_language = QStringLiteral("en");
+    int m_openRow = -1;
+};

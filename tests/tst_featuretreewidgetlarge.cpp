@@ -1,0 +1,388 @@
+// The feature tree widget on a large synthetic camera: after every gesture
+// that moves many rows at once (expanding, a search, clearing it, a level
+// change during it) each visible value row below an expanded parent has its
+// persistent editor, placed on its row, and no other row has one.
+
+#include "featuretreewidgettestsupport.h"
+
+#include "featuretree/SearchEdit.h"
+#include "featuretree/favoritesdata.h"
+#include "featuretree/featuretreeview.h"
+#include "featuretree/featuretreewidget.h"
+#include "syntheticnodemapgenerator.h"
+
+#include <QPointer>
+#include <QTreeView>
+
+#include <functional>
+#include <memory>
+
+using namespace TreeTest;
+
+namespace {
+
+//! Expands every category one by one, as a user's clicks would.
+void expandEveryCategory(QTreeView* view, const QModelIndex& parent)
+{
+    QAbstractItemModel* model = view->model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex child = model->index(row, 0, parent);
+        if (model->hasChildren(child)) {
+            view->setExpanded(child, true);
+            expandEveryCategory(view, child);
+        }
+    }
+}
+
+struct EditorCensus
+{
+    int withEditor = 0;
+    //! Rows that should have an editor and have none, and the other way round.
+    QStringList missing;
+    QStringList extra;
+};
+
+//! Whether the value cell is one that the view keeps an editor open on.
+bool wantsEditor(FeatureTreeView& view, const QModelIndex& value)
+{
+    FeatureTreeItem* item = view.getFeatureExtension()->getFeatureTreeItem(value);
+    return item && item->usePersistentEditor() && item->ShowMe(view.getVisibility())
+        && item->getAccessMode() > GenApi::NA;
+}
+
+//! Walks every row the proxy has built; `shown` tells whether the rows below `parent` are on screen.
+void takeCensus(FeatureTreeView& view, const QModelIndex& parent, bool shown, EditorCensus& census)
+{
+    QAbstractItemModel* model = view.model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex name = model->index(row, 0, parent);
+        const QModelIndex value = model->index(row, 1, parent);
+        const bool rowShown = shown && !view.isRowHidden(row, parent);
+        const bool has = view.indexWidget(value) != nullptr;
+        // The current row may keep its editor wherever it is.
+        const bool isCurrent = view.currentIndex().isValid() && view.currentIndex().row() == row
+            && view.currentIndex().parent() == parent;
+        const bool wants = rowShown && wantsEditor(view, value);
+        const QString fullName = name.data(FeatureTreeItem::FullNameRole).toString();
+        if (has)
+            ++census.withEditor;
+        if (wants && !has)
+            census.missing << fullName;
+        else if (has && !wants && !isCurrent)
+            census.extra << fullName;
+        // Only look below what has been expanded: a collapsed branch is not filled.
+        if (view.isExpanded(name))
+            takeCensus(view, name, rowShown, census);
+    }
+}
+
+EditorCensus census(FeatureTreeView& view)
+{
+    EditorCensus result;
+    takeCensus(view, QModelIndex(), true, result);
+    return result;
+}
+
+//! The first expanded category, depth first, with a value row that has its editor; and that value cell.
+QModelIndex firstCategoryWithEditor(FeatureTreeView& view, QModelIndex* value)
+{
+    QAbstractItemModel* model = view.model();
+    QModelIndex category;
+    std::function<void(const QModelIndex&)> find = [&](const QModelIndex& parent) {
+        for (int row = 0; row < model->rowCount(parent) && !category.isValid(); ++row) {
+            const QModelIndex cell = model->index(row, 1, parent);
+            if (parent.isValid() && view.indexWidget(cell) && wantsEditor(view, cell)) {
+                category = parent;
+                *value = cell;
+            } else if (view.isExpanded(cell.sibling(row, 0))) {
+                find(cell.sibling(row, 0));
+            }
+        }
+    };
+    find(QModelIndex());
+    return category;
+}
+
+} // namespace
+
+class TestFeatureTreeWidgetLarge : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void editorsAfterExpandingEveryCategory();
+    void editorsAfterSearchGestures_data();
+    void editorsAfterSearchGestures();
+    void editorsFollowTheirRowsAfterAnExpansionAbove();
+    void currentRowKeepsItsEditorThroughASearch();
+    void budgetDecidesWhetherEditorsAreClosed_data();
+    void budgetDecidesWhetherEditorsAreClosed();
+    void bulkChangesNestAndOpenEditorsAtTheOuterEnd();
+    void unmatchedEndOfBulkChangeIsRefused();
+
+private:
+    static SearchEdit* searchLine(FeatureTreeWidget& widget) { return widget.findChild<SearchEdit*>("filterEdit"); }
+    static FeatureTreeView* view(FeatureTreeWidget& widget) { return static_cast<FeatureTreeView*>(widget.treeView()); }
+    //! A shown widget on the synthetic camera with every category expanded and the events handled.
+    void makeWidget(std::unique_ptr<FeatureTreeWidget>& widget);
+
+    QSharedPointer<Simulation::SimulatedDevice> m_device;
+};
+
+void TestFeatureTreeWidgetLarge::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName(QStringLiteral("ZarvexTests"));
+    QCoreApplication::setApplicationName(QStringLiteral("tst_featuretreewidgetlarge"));
+    qRegisterMetaType<GenApi::EVisibility>("GenApi::EVisibility");
+}
+
+void TestFeatureTreeWidgetLarge::init()
+{
+    QSettings().remove(QStringLiteral("Favorites"));
+    FavoritesData& store = FeatureTreeModel::m_favorites;
+    while (store.countNodes() > 0)
+        store.removeNode(0, nullptr);
+    store.setViewAllFavorites(true);
+    store.setExpanded(true);
+    Simulation::SyntheticNodeMapGenerator::Options options;
+    options.featureCount = 600;
+    options.depth = 2;
+    options.fanOut = 5;
+    m_device
+        = Simulation::SimulatedDevice::fromDescription(Simulation::SyntheticNodeMapGenerator(options).generateDevice());
+    QVERIFY(m_device);
+}
+
+void TestFeatureTreeWidgetLarge::cleanup()
+{
+    m_device.reset();
+}
+
+void TestFeatureTreeWidgetLarge::makeWidget(std::unique_ptr<FeatureTreeWidget>& widget)
+{
+    widget = std::make_unique<FeatureTreeWidget>(QString(), m_device->baseInfo());
+    widget->setVisibility(GenApi::Guru);
+    for (const QString& name : m_device->nodeMapNames())
+        widget->addParameterCollection(m_device->nodeMap(name), name, name, false);
+    widget->resize(480, 600);
+    widget->show();
+    QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
+    expandEveryCategory(widget->treeView(), QModelIndex());
+    QCoreApplication::processEvents();
+}
+
+void TestFeatureTreeWidgetLarge::editorsAfterExpandingEveryCategory()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    const EditorCensus result = census(*view(*widget));
+    QCOMPARE(result.missing, QStringList());
+    QCOMPARE(result.extra, QStringList());
+    // Most of the 600 features have an editor: the camera is large, not empty.
+    QVERIFY2(result.withEditor > 300, qPrintable(QString::number(result.withEditor)));
+}
+
+void TestFeatureTreeWidgetLarge::editorsAfterSearchGestures_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<int>("levelDuringSearch");
+    QTest::addColumn<bool>("expectEditors");
+    QTest::addColumn<qint64>("budget");
+
+    // Each gesture with the editors closed at the first row range, and with
+    // a budget under which a tree of this size keeps them.
+    for (const qint64 budget : { qint64(0), qint64(100000000) }) {
+        const QByteArray suffix = budget == 0 ? QByteArray(", editors closed") : QByteArray(", editors kept");
+
+        QTest::newRow(QByteArray("one letter" + suffix).constData())
+            << QStringList { QStringLiteral("7") } << -1 << true << budget;
+        QTest::newRow(QByteArray("two letters" + suffix).constData())
+            << QStringList { QStringLiteral("7"), QStringLiteral("77") } << -1 << true << budget;
+        QTest::newRow(QByteArray("letter, then cleared" + suffix).constData())
+            << QStringList { QStringLiteral("7"), QString() } << -1 << true << budget;
+        QTest::newRow(QByteArray("two letters, one taken back, cleared" + suffix).constData())
+            << QStringList { QStringLiteral("1"), QStringLiteral("12"), QStringLiteral("1"), QString() } << -1 << true
+            << budget;
+        QTest::newRow(QByteArray("no match, then cleared" + suffix).constData())
+            << QStringList { QStringLiteral("zzz"), QString() } << -1 << true << budget;
+        QTest::newRow(QByteArray("no match" + suffix).constData())
+            << QStringList { QStringLiteral("zzz") } << -1 << false << budget;
+        QTest::newRow(QByteArray("level to Beginner during the search" + suffix).constData())
+            << QStringList { QStringLiteral("3") } << 0 << true << budget;
+        QTest::newRow(QByteArray("level to Expert during the search, then cleared" + suffix).constData())
+            << QStringList { QStringLiteral("3"), QString() } << 1 << true << budget;
+    }
+}
+
+void TestFeatureTreeWidgetLarge::editorsAfterSearchGestures()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(int, levelDuringSearch);
+    QFETCH(bool, expectEditors);
+    QFETCH(qint64, budget);
+
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    tree->setBulkEditorBudget(budget);
+    tree->setCurrentIndex(QModelIndex());
+    for (int i = 0; i < texts.size(); ++i) {
+        searchLine(*widget)->setText(texts.at(i));
+        if (i == 0 && levelDuringSearch >= 0)
+            QMetaObject::invokeMethod(widget.get(), "onVisibilityChanged", Q_ARG(int, levelDuringSearch));
+        QCoreApplication::processEvents();
+        const EditorCensus result = census(*tree);
+        const QString step = QStringLiteral("after \"%1\"").arg(texts.at(i));
+        QVERIFY2(result.missing.isEmpty(), qPrintable(step + QStringLiteral(" missing: ") + result.missing.join(',')));
+        QVERIFY2(result.extra.isEmpty(), qPrintable(step + QStringLiteral(" extra: ") + result.extra.join(',')));
+        QVERIFY(!tree->isInBulkChange());
+    }
+    QCOMPARE(census(*tree).withEditor > 0, expectEditors);
+}
+
+void TestFeatureTreeWidgetLarge::editorsFollowTheirRowsAfterAnExpansionAbove()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    QAbstractItemModel* model = tree->model();
+
+    // Collapse and expand again the first category with editors: the rows
+    // below it move up and down, and their editors must move with them.
+    QModelIndex firstValue;
+    const QModelIndex category = firstCategoryWithEditor(*tree, &firstValue);
+    QVERIFY(category.isValid());
+
+    int checked = 0;
+    std::function<void(const QModelIndex&)> visit = [&](const QModelIndex& parent) {
+        for (int row = 0; row < model->rowCount(parent); ++row) {
+            const QModelIndex value = model->index(row, 1, parent);
+            QWidget* editor = tree->indexWidget(value);
+            const QRect cell = tree->visualRect(value);
+            if (editor && cell.intersects(tree->viewport()->rect())) {
+                QVERIFY2(editor->isVisible(), qPrintable(value.sibling(row, 0).data().toString()));
+                QVERIFY2(cell.contains(editor->geometry().center()),
+                    qPrintable(QStringLiteral("%1: editor at %2, row at %3")
+                                   .arg(value.sibling(row, 0).data().toString())
+                                   .arg(editor->geometry().center().y())
+                                   .arg(cell.center().y())));
+                ++checked;
+            }
+            if (tree->isExpanded(value.sibling(row, 0)))
+                visit(value.sibling(row, 0));
+        }
+    };
+    for (const bool expand : { false, true }) {
+        tree->setExpanded(category, expand);
+        QCoreApplication::processEvents();
+        checked = 0;
+        visit(QModelIndex());
+        QVERIFY2(checked > 5, qPrintable(QString::number(checked)));
+    }
+}
+
+void TestFeatureTreeWidgetLarge::currentRowKeepsItsEditorThroughASearch()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    tree->setBulkEditorBudget(0);
+    // A feature whose name holds the search text, so that its row stays.
+    const QModelIndex value
+        = viewIndex(*tree, QStringLiteral("@CameraDevice/") + Simulation::SyntheticNodeMapGenerator::featureName(7), 1);
+    QVERIFY(value.isValid());
+    QPointer<QWidget> editor = tree->indexWidget(value);
+    QVERIFY(editor);
+    tree->setCurrentIndex(value.sibling(value.row(), 0));
+    const QString text = value.sibling(value.row(), 0).data().toString();
+    QVERIFY(!text.isEmpty());
+    searchLine(*widget)->setText(text);
+    QCoreApplication::processEvents();
+    const QModelIndex after
+        = viewIndex(*tree, QStringLiteral("@CameraDevice/") + Simulation::SyntheticNodeMapGenerator::featureName(7), 1);
+    QVERIFY(after.isValid());
+    QVERIFY(editor);
+    QCOMPARE(tree->indexWidget(after), editor.data());
+}
+
+void TestFeatureTreeWidgetLarge::budgetDecidesWhetherEditorsAreClosed_data()
+{
+    QTest::addColumn<qint64>("budget");
+    QTest::addColumn<bool>("sameEditor");
+    QTest::newRow("no budget: closed at the first range, a new one opens") << qint64(0) << false;
+    QTest::newRow("a budget of one visit: closed at the second range") << qint64(1) << false;
+    QTest::newRow("the default budget: closed at the first range") << FeatureTreeView().bulkEditorBudget() << false;
+    QTest::newRow("a large budget: a tree this size keeps its editors") << qint64(100000000) << true;
+}
+
+void TestFeatureTreeWidgetLarge::budgetDecidesWhetherEditorsAreClosed()
+{
+    QFETCH(qint64, budget);
+    QFETCH(bool, sameEditor);
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    tree->setBulkEditorBudget(budget);
+    QCOMPARE(tree->bulkEditorBudget(), budget);
+    tree->setCurrentIndex(QModelIndex());
+    const QString fullName = QStringLiteral("@CameraDevice/") + Simulation::SyntheticNodeMapGenerator::featureName(7);
+    QPointer<QWidget> before = tree->indexWidget(viewIndex(*tree, fullName, 1));
+    QVERIFY(before);
+    searchLine(*widget)->setText(QStringLiteral("7"));
+    QCoreApplication::processEvents();
+    QWidget* after = tree->indexWidget(viewIndex(*tree, fullName, 1));
+    QVERIFY(after);
+    QCOMPARE(after == before.data(), sameEditor);
+}
+
+void TestFeatureTreeWidgetLarge::bulkChangesNestAndOpenEditorsAtTheOuterEnd()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    QModelIndex firstValue;
+    const QModelIndex category = firstCategoryWithEditor(*tree, &firstValue);
+    QVERIFY(category.isValid());
+    tree->collapse(category);
+
+    // A collapsed branch keeps its editors; take this one away by hand.
+    tree->closePersistentEditor(firstValue);
+    QVERIFY(!tree->indexWidget(firstValue));
+
+    tree->beginBulkChange();
+    tree->beginBulkChange();
+    QVERIFY(tree->isInBulkChange());
+    tree->expand(category);
+    QVERIFY(!tree->indexWidget(firstValue));
+    // The inner end opens nothing yet.
+    tree->endBulkChange();
+    QVERIFY(tree->isInBulkChange());
+    QVERIFY(!tree->indexWidget(firstValue));
+    tree->endBulkChange();
+    QVERIFY(!tree->isInBulkChange());
+    QVERIFY(tree->indexWidget(firstValue));
+    const EditorCensus result = census(*tree);
+    QCOMPARE(result.missing, QStringList());
+}
+
+void TestFeatureTreeWidgetLarge::unmatchedEndOfBulkChangeIsRefused()
+{
+    FeatureTreeView tree;
+    QTest::ignoreMessage(QtDebugMsg, "endBulkChange: no bulk change to end");
+    tree.endBulkChange();
+    QVERIFY(!tree.isInBulkChange());
+    tree.beginBulkChange();
+    QVERIFY(tree.isInBulkChange());
+    tree.endBulkChange();
+    QVERIFY(!tree.isInBulkChange());
+}
+
+QTEST_MAIN(TestFeatureTreeWidgetLarge)
+#include "tst_featuretreewidgetlarge.moc"

@@ -1,0 +1,293 @@
+// The compiled catalogues: each loads from the library's resources, every text
+// of the sources has a finished translation in every language, and the tool
+// tips of the features change with the installed translator.
+
+#include "featuretreetestsupport.h"
+#include "featuretreewidgettestsupport.h"
+
+#include "featuretree/featuretreewidget.h"
+#include "featuretree/ifeaturetreemodelextension.h"
+
+#include <QDir>
+#include <QDomDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QTreeView>
+#include <QtTest>
+
+namespace {
+
+const QStringList kLanguages
+    = { QStringLiteral("en"), QStringLiteral("ja"), QStringLiteral("ko"), QStringLiteral("zh") };
+
+//! One message of a catalogue, with what is wrong with its translation, if anything.
+struct Message
+{
+    QString context;
+    QString source;
+    QString comment;
+    QStringList translations; //!< one, or the plural forms
+    bool finished = false;
+};
+
+QList<Message> readCatalogue(const QString& path, QString* error)
+{
+    QFile file(path);
+    QDomDocument document;
+    if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file, error))
+        return {};
+    QList<Message> messages;
+    const QDomNodeList contexts = document.elementsByTagName(QStringLiteral("context"));
+    for (int c = 0; c < contexts.size(); ++c) {
+        const QDomElement context = contexts.at(c).toElement();
+        const QString name = context.firstChildElement(QStringLiteral("name")).text();
+        for (QDomElement m = context.firstChildElement(QStringLiteral("message")); !m.isNull();
+             m = m.nextSiblingElement(QStringLiteral("message"))) {
+            Message message;
+            message.context = name;
+            message.source = m.firstChildElement(QStringLiteral("source")).text();
+            message.comment = m.firstChildElement(QStringLiteral("comment")).text();
+            const QDomElement translation = m.firstChildElement(QStringLiteral("translation"));
+            const QDomNodeList forms = translation.elementsByTagName(QStringLiteral("numerusform"));
+            if (forms.isEmpty())
+                message.translations.append(translation.text());
+            for (int f = 0; f < forms.size(); ++f)
+                message.translations.append(forms.at(f).toElement().text());
+            const QString type = translation.attribute(QStringLiteral("type"));
+            message.finished = type.isEmpty() && !message.translations.contains(QString());
+            messages.append(message);
+        }
+    }
+    return messages;
+}
+
+//! The node maps of the default camera and the translation contexts of their tool tips.
+const QList<QPair<QString, QString>> kToolTipContexts
+    = { { QStringLiteral("@CameraDevice"), QStringLiteral("CameraDevice") },
+          { QStringLiteral("@DeviceTransportLayer"), QStringLiteral("TransportLayer") },
+          { QStringLiteral("@StreamGrabber0"), QStringLiteral("StreamGrabber") },
+          { QStringLiteral("@EventGrabber"), QStringLiteral("EventGrabber") },
+          { QStringLiteral("@ImageFormatConverter"), QStringLiteral("ImageFormatConverter") } };
+
+QString nodeMapOfContext(const QString& context)
+{
+    for (const auto& pair : kToolTipContexts) {
+        if (pair.second == context)
+            return pair.first;
+    }
+    return QString();
+}
+
+QString contextOfNodeMap(const QString& nodeMap)
+{
+    for (const auto& pair : kToolTipContexts) {
+        if (pair.first == nodeMap)
+            return pair.second;
+    }
+    return QString();
+}
+
+QString sourceCatalogue(const QString& language)
+{
+    return QStringLiteral(ZVC_TRANSLATION_DIR "/ZarvexViewerComponents_%1.ts").arg(language);
+}
+
+QString toolTipCatalogue(const QString& language)
+{
+    return QStringLiteral(ZVC_TRANSLATION_DIR "/FeatureToolTips_%1.ts").arg(language);
+}
+
+QString messageKey(const Message& message)
+{
+    return message.context + QLatin1Char('|') + message.source + QLatin1Char('|') + message.comment;
+}
+
+} // namespace
+
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachCatalogueLoads_data();
+    void eachCatalogueLoads();
+    void everyMessageIsFinished_data();
+    void everyMessageIsFinished();
+    void everyTextOfTheSourcesIsInTheCatalogues();
+    void toolTipCataloguesCoverTheSameFeatures();
+    void everyFeatureOfTheDefaultCameraHasAToolTip();
+    void toolTipOfExposureTimeFollowsTheTranslator();
+};
+
+void TestTranslations::eachCatalogueLoads_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& language : kLanguages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestTranslations::eachCatalogueLoads()
+{
+    QFETCH(QString, language);
+    QTranslator translator;
+    QVERIFY(translator.load(QStringLiteral(":/translation/ZarvexViewerComponents_%1.qm").arg(language)));
+    QVERIFY(!translator.isEmpty());
+    // Every message of both catalogues made it into the compiled one.
+    for (const QString& path : { sourceCatalogue(language), toolTipCatalogue(language) }) {
+        QString error;
+        const QList<Message> messages = readCatalogue(path, &error);
+        QVERIFY2(!messages.isEmpty(), qPrintable(path + QLatin1Char(' ') + error));
+        for (const Message& message : messages) {
+            const QString text = translator.translate(qPrintable(message.context), qPrintable(message.source),
+                message.comment.isEmpty() ? nullptr : qPrintable(message.comment), 1);
+            QVERIFY2(!text.isEmpty(), qPrintable(message.context + QLatin1String(": ") + message.source));
+        }
+    }
+}
+
+void TestTranslations::everyMessageIsFinished_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const QString& language : kLanguages) {
+        QTest::newRow(qPrintable(QStringLiteral("sources ") + language)) << sourceCatalogue(language);
+        QTest::newRow(qPrintable(QStringLiteral("tool tips ") + language)) << toolTipCatalogue(language);
+    }
+}
+
+void TestTranslations::everyMessageIsFinished()
+{
+    QFETCH(QString, path);
+    QString error;
+    const QList<Message> messages = readCatalogue(path, &error);
+    QVERIFY2(!messages.isEmpty(), qPrintable(error));
+    QStringList unfinished;
+    for (const Message& message : messages) {
+        if (!message.finished)
+            unfinished.append(message.context + QLatin1String(": ") + message.source);
+    }
+    QVERIFY2(unfinished.isEmpty(), qPrintable(unfinished.join(QLatin1Char('\n'))));
+}
+
+void TestTranslations::everyTextOfTheSourcesIsInTheCatalogues()
+{
+    // lupdate reads the sources afresh into a scratch catalogue; each text it
+    // finds must stand, translated, in the catalogues kept in the repository.
+    QTemporaryDir scratch;
+    QVERIFY(scratch.isValid());
+    const QString fresh = scratch.filePath(QStringLiteral("fresh.ts"));
+    QProcess lupdate;
+    lupdate.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    lupdate.start(QStringLiteral(ZVC_LUPDATE),
+        { QStringLiteral("-silent"), QStringLiteral(ZVC_SOURCE_DIR "/featuretree"),
+            QStringLiteral(ZVC_SOURCE_DIR "/messages"), QStringLiteral(ZVC_SOURCE_DIR "/network"),
+            QStringLiteral("-ts"), fresh });
+    QVERIFY(lupdate.waitForFinished(120000));
+    QCOMPARE(lupdate.exitCode(), 0);
+    QString error;
+    const QList<Message> found = readCatalogue(fresh, &error);
+    QVERIFY2(found.size() > 50, qPrintable(error));
+
+    for (const QString& language : kLanguages) {
+        QHash<QString, Message> kept;
+        for (const Message& message : readCatalogue(sourceCatalogue(language), &error))
+            kept.insert(messageKey(message), message);
+        QStringList missing;
+        for (const Message& message : found) {
+            const auto it = kept.constFind(messageKey(message));
+            if (it == kept.constEnd() || !it->finished)
+                missing.append(message.context + QLatin1String(": ") + message.source);
+        }
+        QVERIFY2(missing.isEmpty(), qPrintable(language + QLatin1String(":\n") + missing.join(QLatin1Char('\n'))));
+    }
+}
+
+void TestTranslations::toolTipCataloguesCoverTheSameFeatures()
+{
+    // The same keys in every language, each a feature of the default camera in
+    // the context of its node map.
+    // Some features exist on one transport-layer type only: a key is good if any type has its feature.
+    QList<QSharedPointer<Simulation::SimulatedDevice>> devices;
+    for (const char* type : { "GEV", "U3V", "IIDC", "CXP", "CamEmu" })
+        devices.append(Simulation::SimulatedDevice::createDefault(QLatin1String(type)));
+    const auto described = [&devices](const QString& mapName, const QString& fullName) {
+        for (const auto& device : devices) {
+            if (device->nodeMap(mapName) && device->nodeMap(mapName)->hasParameter(fullName))
+                return true;
+        }
+        return false;
+    };
+    QStringList english;
+    QString error;
+    for (const Message& message : readCatalogue(toolTipCatalogue(QStringLiteral("en")), &error)) {
+        english.append(messageKey(message));
+        QVERIFY2(!nodeMapOfContext(message.context).isEmpty(), qPrintable(message.context));
+        QVERIFY2(message.source.endsWith(QLatin1String("_Tooltip")), qPrintable(message.source));
+        const QString mapName = nodeMapOfContext(message.context);
+        const QString fullName = mapName + QLatin1Char('/') + message.source.chopped(8);
+        QVERIFY2(described(mapName, fullName), qPrintable(fullName));
+    }
+    QVERIFY(english.contains(QStringLiteral("CameraDevice|ExposureTime_Tooltip|")));
+    for (const QString& language : kLanguages) {
+        QStringList keys;
+        for (const Message& message : readCatalogue(toolTipCatalogue(language), &error))
+            keys.append(messageKey(message));
+        QCOMPARE(keys, english);
+    }
+}
+
+void TestTranslations::everyFeatureOfTheDefaultCameraHasAToolTip()
+{
+    const auto device = Simulation::SimulatedDevice::createDefault(QStringLiteral("GEV"));
+    int features = 0;
+    for (const QString& language : kLanguages) {
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(":/translation/ZarvexViewerComponents_%1.qm").arg(language)));
+        QStringList missing;
+        features = 0;
+        // The description lists every feature, those of other transport-layer types too.
+        for (const Simulation::NodeMapDescription& nodeMap : device->description().nodeMaps) {
+            QVERIFY2(!contextOfNodeMap(nodeMap.name).isEmpty(), qPrintable(nodeMap.name));
+            const QByteArray context = contextOfNodeMap(nodeMap.name).toLatin1();
+            for (const Simulation::FeatureDescription& feature : nodeMap.features) {
+                ++features;
+                const QByteArray key = feature.name.toLatin1() + "_Tooltip";
+                if (translator.translate(context.constData(), key.constData()).isEmpty())
+                    missing.append(QLatin1String(context) + QLatin1Char('/') + feature.name);
+            }
+        }
+        QVERIFY2(missing.isEmpty(), qPrintable(language + QLatin1String(":\n") + missing.join(QLatin1Char('\n'))));
+    }
+    QVERIFY(features > 500);
+}
+
+void TestTranslations::toolTipOfExposureTimeFollowsTheTranslator()
+{
+    const auto device = Simulation::SimulatedDevice::createDefault(QStringLiteral("GEV"));
+    FeatureTreeWidget widget(QStringLiteral("camera"), device->baseInfo());
+    widget.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("CameraDevice"),
+        QStringLiteral("@CameraDevice"), false);
+    const QModelIndex index
+        = widget.getFeatureExtension()->findItemByFullName(QStringLiteral("@CameraDevice/ExposureTime"), nullptr, 0);
+    QVERIFY(index.isValid());
+    const QString untranslated = index.data(Qt::ToolTipRole).toString();
+    QVERIFY(!untranslated.isEmpty());
+
+    QStringList seen = { untranslated };
+    for (const QString& language : kLanguages) {
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(":/translation/ZarvexViewerComponents_%1.qm").arg(language)));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        const QString translated = index.data(Qt::ToolTipRole).toString();
+        QCoreApplication::removeTranslator(&translator);
+        const QString expected = translator.translate("CameraDevice", "ExposureTime_Tooltip");
+        QVERIFY(!expected.isEmpty());
+        QVERIFY2(translated.contains(expected), qPrintable(translated));
+        QVERIFY2(!seen.contains(translated), qPrintable(language + QLatin1String(": ") + translated));
+        seen.append(translated);
+    }
+    QCOMPARE(index.data(Qt::ToolTipRole).toString(), untranslated);
+}
+
+QTEST_MAIN(TestTranslations)
+#include "tst_translations.moc"
