@@ -3,7 +3,9 @@
 # (build-fuzz/) and runs each for its share of a short while: the filter-file
 # parser seeded with the shipped filter files, the restore of a saved widget
 # state seeded with two states as the widget writes them, and the address
-# validators with the IP address dialog, seeded with a few sets. Fails on any
+# validators with the IP address dialog, seeded with a few sets; the
+# favourites settings file, a drop payload of tree items, and the simulated
+# camera's JSON device description, each with its seeds. Fails on any
 # crash, sanitizer report, leak, time-out or memory blow-up; the input that
 # caused it is kept in build-fuzz/artifacts/.
 #   scripts/fuzz-smoke.sh            180 seconds in all
@@ -15,7 +17,7 @@ seconds="${1:-180}"
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 "$root/scripts/setup.sh" clang-14 libclang-rt-14-dev
 
-fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators)
+fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators fuzz_favoritessettings fuzz_dropmime fuzz_devicejson)
 share=$(( seconds / ${#fuzzers[@]} ))
 if [ "$share" -lt 1 ]; then
     share=1
@@ -63,8 +65,27 @@ seeds="$build/corpus/restorestate-seeds"
 mkdir -p "$corpus" "$seeds"
 printf '\x01\x00\x00\x00\x01\x00\x00\x00\x02\x00\x00\x00\xc8\x00\x00\x00\x64' >"$seeds/two-columns"
 printf '\x02\x00\x00\x00\x01\x00\x00\x00\x03\x00\x00\x00\x50\x00\x00\x00\x3c\x00\x00\x00\x28' >"$seeds/three-columns"
+# Damaged ones: a count far beyond the data, a negative width, another version, a torn width.
+printf '\x01\x00\x00\x00\x01\x7f\xff\xff\xff\x00\x00\x00\xc8' >"$seeds/huge-count"
+printf '\x01\x00\x00\x00\x01\x00\x00\x00\x02\xff\xff\xff\xf6\x00\x00\x00\x64' >"$seeds/negative-width"
+printf '\x01\x00\x00\x00\x02\x00\x00\x00\x02\x00\x00\x00\xc8\x00\x00\x00\x64' >"$seeds/other-version"
+printf '\x07\x00\x00\x00\x01\x00\x00\x00\x08\x00\x00' >"$seeds/torn"
 run fuzz_restorestate "$corpus" "$seeds"
 
 corpus="$build/corpus/validators"
 mkdir -p "$corpus"
 run fuzz_validators -dict="$root/fuzz/validators.dict" "$corpus" "$root/fuzz/seeds/validators"
+
+corpus="$build/corpus/favoritessettings"
+mkdir -p "$corpus"
+run fuzz_favoritessettings "$corpus" "$root/fuzz/seeds/favoritessettings"
+
+corpus="$build/corpus/dropmime"
+mkdir -p "$corpus"
+run fuzz_dropmime "$corpus" "$root/fuzz/seeds/dropmime"
+
+corpus="$build/corpus/devicejson"
+mkdir -p "$corpus"
+# Full stacks for the leak check, so that the suppression of the leak inside
+# Qt's JSON parser (fuzz/lsan.supp) finds its frame.
+ASAN_OPTIONS="$ASAN_OPTIONS:fast_unwind_on_malloc=0" run fuzz_devicejson "$corpus" "$root/fuzz/seeds/devicejson" "$root/simulation/devices"

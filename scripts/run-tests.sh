@@ -2,6 +2,8 @@
 # Sets up what is missing, builds everything and runs every test.
 #   scripts/run-tests.sh              normal build in build/
 #   scripts/run-tests.sh --sanitize   AddressSanitizer + UndefinedBehaviorSanitizer build in build-asan/
+#   scripts/run-tests.sh --tsan       ThreadSanitizer build in build-tsan/ of the error queue
+#                                     stress test only (tst_errorreporting)
 set -euo pipefail
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
@@ -15,6 +17,19 @@ if [ "${1:-}" = "--sanitize" ]; then
     export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:strict_init_order=1"
     export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
     export LSAN_OPTIONS="suppressions=$root/tests/lsan.supp"
+fi
+
+if [ "${1:-}" = "--tsan" ]; then
+    # Many threads report while the GUI thread drains the queue. Qt itself is
+    # not instrumented, so only races in the library's own code are reported.
+    build="$root/build-tsan"
+    options=(-DZVC_BUILD_TESTS=ON -DZVC_BUILD_VIEWER=OFF -DZVC_SANITIZE_THREAD=ON -DCMAKE_BUILD_TYPE=Debug)
+    export TSAN_OPTIONS="halt_on_error=1:second_deadlock_stack=1"
+    cmake -S "$root" -B "$build" -G Ninja "${options[@]}"
+    cmake --build "$build" --parallel "$(nproc)" --target tst_errorreporting
+    cd "$build"
+    QT_QPA_PLATFORM=offscreen ctest --output-on-failure -R '^tst_errorreporting$'
+    exit 0
 fi
 
 cmake -S "$root" -B "$build" -G Ninja "${options[@]}"

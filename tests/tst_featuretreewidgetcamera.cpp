@@ -7,6 +7,9 @@
 
 #include "featuretreewidgettestsupport.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+
 #include "featuretree/SearchEdit.h"
 #include "featuretree/checkboxeditor.h"
 #include "featuretree/enumeditor.h"
@@ -49,6 +52,10 @@ private slots:
     void unplugWhilePollingKeepsTheLastValues();
     void searchCountsAndComesBack();
     void favouritesByActionsAndDropOutliveTheWidget();
+    void levelChangeOnAnUnpluggedCameraIsKept();
+    void resetOnAnUnpluggedCameraLeavesNoWaitCursor();
+    void secondWidgetOnAnUnpluggedCameraIsBuilt();
+    void movingTheLastFavouriteDownKeepsIt();
 
 private:
     void build()
@@ -378,6 +385,77 @@ void TestFeatureTreeWidgetCamera::favouritesByActionsAndDropOutliveTheWidget()
         QCOMPARE(
             m_widget->treeView()->model()->index(i, 0, newFavorites).data(FeatureTreeItem::NodeNameRole).toString(),
             names.at(i));
+}
+
+// The view refreshes the camera on a change of level; an unplugged camera
+// refuses that, and the level must be taken all the same, with a log line
+// instead of an exception out of the widget.
+void TestFeatureTreeWidgetCamera::levelChangeOnAnUnpluggedCameraIsKept()
+{
+    m_device->unplug();
+    QSignalSpy levels(m_widget.get(), &FeatureTreeWidget::visibilityChanged);
+    try {
+        QMetaObject::invokeMethod(m_widget.get(), "onVisibilityChanged", Q_ARG(int, 1));
+    } catch (...) {
+        QFAIL("an exception left the change of level");
+    }
+    QCOMPARE(m_widget->visibility(), GenApi::Expert);
+    QCOMPARE(levels.count(), 1);
+    m_device->replug();
+}
+
+// The reset button refreshes the camera under a wait cursor; a camera that
+// refuses must leave neither an exception nor the cursor behind.
+void TestFeatureTreeWidgetCamera::resetOnAnUnpluggedCameraLeavesNoWaitCursor()
+{
+    auto* reset = m_widget->findChild<QAbstractButton*>(QStringLiteral("resetButton"));
+    QVERIFY(reset);
+    m_device->unplug();
+    try {
+        QMetaObject::invokeMethod(m_widget.get(), "on_resetButton_clicked");
+    } catch (...) {
+        QFAIL("an exception left the reset button");
+    }
+    QVERIFY(!QGuiApplication::overrideCursor());
+    m_device->replug();
+}
+
+// The node map filter lets a refusal of the collection through; adding an
+// unplugged camera's node map to a new widget must still build the widget.
+void TestFeatureTreeWidgetCamera::secondWidgetOnAnUnpluggedCameraIsBuilt()
+{
+    m_device->unplug();
+    FeatureTreeWidget second(QStringLiteral("second"), m_device->baseInfo());
+    try {
+        second.addParameterCollection(m_device->nodeMap(QStringLiteral("@CameraDevice")),
+            QStringLiteral("@CameraDevice"), QStringLiteral("@CameraDevice"), false);
+    } catch (...) {
+        QFAIL("an exception left addParameterCollection");
+    }
+    QVERIFY(second.getFeatureExtension());
+    m_device->replug();
+}
+
+// The move actions may still be enabled from an earlier current row; moving
+// the last favourite down (or the first up) must leave the list as it is.
+void TestFeatureTreeWidgetCamera::movingTheLastFavouriteDownKeepsIt()
+{
+    FavoritesData& store = FeatureTreeModel::m_favorites;
+    m_widget->treeView()->setCurrentIndex(find("Width", 0));
+    m_widget->findChild<QAction*>(QStringLiteral("actionAddToFavourites"))->trigger();
+    QCOMPARE(store.countNodes(), 1);
+    const QModelIndex favourite
+        = m_widget->treeView()->model()->index(0, 0, m_widget->getFeatureExtension()->GetFavoritesRootIndex());
+    QVERIFY(favourite.isValid());
+    m_widget->treeView()->setCurrentIndex(favourite);
+    auto* down = m_widget->findChild<QAction*>(QStringLiteral("actionMoveFavouriteDown"));
+    auto* up = m_widget->findChild<QAction*>(QStringLiteral("actionMoveFavouriteUp"));
+    down->setEnabled(true); // as left over from a row that could move
+    up->setEnabled(true);
+    down->trigger();
+    up->trigger();
+    QCOMPARE(store.countNodes(), 1);
+    QCOMPARE(store.nodeAt(0)->name, QStringLiteral("Width"));
 }
 
 QTEST_MAIN(TestFeatureTreeWidgetCamera)

@@ -376,8 +376,15 @@ void FeatureTreeView::setVisibility(GenApi::EVisibility visibility)
     lastModel = model();
     if (model()) {
         onFavoriteDataUpdated();
-        if (IFeatureTreeModelExtension* extension = getFeatureExtension())
-            extension->refresh();
+        // The level is the user's, whatever the device says: an unplugged or
+        // failing camera must not turn a change of level into a crash.
+        if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
+            try {
+                extension->refresh();
+            } catch (...) {
+                ExceptionLogging::logCurrentException(Q_FUNC_INFO, QStringLiteral("Failed to refresh the features"));
+            }
+        }
     }
 }
 

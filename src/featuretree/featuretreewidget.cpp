@@ -7,6 +7,7 @@
 #include "featuretreeproxymodel.h"
 #include "featuretreeview.h"
 #include "ifeaturetreemodelextension.h"
+#include "messages/exceptionlogging.h"
 #include "nodemapfilter.h"
 #include "ui_featuretreewidget.h"
 
@@ -259,7 +260,13 @@ void FeatureTreeWidget::addParameterCollection(
     QSharedPointer<ParameterCollection::IParameterCollection> pParameterCollection, QString const& rootName,
     QString const& roleName, bool isUtf8)
 {
-    NodeMapFilter::applyFilter(pParameterCollection, m_cameraInfo, roleName);
+    // The filter lets a refusal of the collection itself through (an
+    // unplugged camera); the tree is still built from what the model can read.
+    try {
+        NodeMapFilter::applyFilter(pParameterCollection, m_cameraInfo, roleName);
+    } catch (...) {
+        ExceptionLogging::logCurrentException(Q_FUNC_INFO, QStringLiteral("Failed to apply the node map filter"));
+    }
     IFeatureTreeModelExtension* extension = getFeatureExtension();
     if (!extension)
         return;
@@ -346,8 +353,14 @@ void FeatureTreeWidget::onCurrentChanged(QModelIndex const& current)
 void FeatureTreeWidget::on_resetButton_clicked()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    if (IFeatureTreeModelExtension* extension = getFeatureExtension())
-        extension->refresh();
+    // Caught here so that a failing camera leaves neither a crash nor the wait cursor behind.
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
+        try {
+            extension->refresh();
+        } catch (...) {
+            ExceptionLogging::logCurrentException(Q_FUNC_INFO, QStringLiteral("Failed to refresh the features"));
+        }
+    }
     QGuiApplication::restoreOverrideCursor();
 }
 
@@ -522,14 +535,20 @@ void FeatureTreeWidget::AddToFavourites_triggered()
 void FeatureTreeWidget::FavouriteMoveUp_triggered()
 {
     const QModelIndex index = GetCurrentIndex();
-    if (IFeatureTreeModelExtension* extension = getFeatureExtension(); extension && index.isValid())
+    // The action's enabled state may be older than the list: a move past
+    // either end would take the favourite out of the store for good.
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension();
+        extension && index.isValid() && extension->CanMoveFavorite(index, true))
         extension->MoveFavorite(index, true);
 }
 
 void FeatureTreeWidget::FavouriteMoveDown_triggered()
 {
     const QModelIndex index = GetCurrentIndex();
-    if (IFeatureTreeModelExtension* extension = getFeatureExtension(); extension && index.isValid())
+    // The action's enabled state may be older than the list: a move past
+    // either end would take the favourite out of the store for good.
+    if (IFeatureTreeModelExtension* extension = getFeatureExtension();
+        extension && index.isValid() && extension->CanMoveFavorite(index, false))
         extension->MoveFavorite(index, false);
 }
 
