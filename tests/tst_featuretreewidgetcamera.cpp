@@ -56,6 +56,7 @@ private slots:
     void resetOnAnUnpluggedCameraLeavesNoWaitCursor();
     void secondWidgetOnAnUnpluggedCameraIsBuilt();
     void movingTheLastFavouriteDownKeepsIt();
+    void clearLeavesNoFreedItemBehindTheViews();
 
 private:
     void build()
@@ -456,6 +457,43 @@ void TestFeatureTreeWidgetCamera::movingTheLastFavouriteDownKeepsIt()
     up->trigger();
     QCOMPARE(store.countNodes(), 1);
     QCOMPARE(store.nodeAt(0)->name, QStringLiteral("Width"));
+}
+
+// clear() frees every item of the model; nothing above it may keep their
+// addresses. A failed re-adding of an unplugged camera, a filter pass and a
+// repaint afterwards must find an empty tree, and re-adding after the replug
+// must show the camera again with its editors.
+void TestFeatureTreeWidgetCamera::clearLeavesNoFreedItemBehindTheViews()
+{
+    m_widget->setVisibility(GenApi::Guru);
+    QVERIFY(find("Gain", 1).isValid());
+    QVERIFY(m_widget->treeView()->indexWidget(find("Gain", 1)));
+    QSignalSpy reset(m_widget->treeView()->model(), SIGNAL(modelReset()));
+
+    m_widget->deviceIsClosed();
+    m_widget->clear();
+    QVERIFY(reset.count() > 0);
+    auto* proxy = static_cast<FeatureTreeProxyModel*>(m_widget->treeView()->model());
+    QCOMPARE(proxy->rowCount(QModelIndex()), 0);
+    QVERIFY(proxy->sourceModel());
+
+    m_device->unplug();
+    m_widget->addParameterCollection(m_device->nodeMap(QStringLiteral("@CameraDevice")),
+        QStringLiteral("@CameraDevice"), QStringLiteral("@CameraDevice"), false);
+    proxy->invalidate();
+    m_widget->repaint();
+    QCoreApplication::processEvents();
+
+    m_device->replug();
+    m_widget->clear();
+    for (const char* name : kNodeMaps)
+        m_widget->addParameterCollection(
+            m_device->nodeMap(QLatin1String(name)), QLatin1String(name), QLatin1String(name), false);
+    m_widget->Refresh();
+    QCoreApplication::processEvents();
+    const QModelIndex gain = find("Gain", 1);
+    QVERIFY(gain.isValid());
+    QVERIFY(m_widget->treeView()->indexWidget(gain));
 }
 
 QTEST_MAIN(TestFeatureTreeWidgetCamera)

@@ -225,7 +225,21 @@ void FeatureTreeWidget::deviceIsClosed()
 
 void FeatureTreeWidget::clear()
 {
-    getFeatureExtension()->clear();
+    auto* proxy = qobject_cast<FeatureTreeProxyModel*>(ui->treeView->model());
+    QAbstractItemModel* model = proxy ? proxy->sourceModel() : nullptr;
+    auto* extension = dynamic_cast<IFeatureTreeModelExtension*>(model);
+    if (!extension) {
+        getFeatureExtension()->clear();
+        return;
+    }
+    // The model frees its items without telling anyone, so the views above it
+    // are reset around the clearing: the proxy lets go of the model while its
+    // items still stand, and takes it up again empty. Without this the proxy's
+    // mapping and the view's persistent editors would keep the freed items'
+    // addresses and reach into them at the next filter pass.
+    proxy->setSourceModel(nullptr);
+    extension->clear();
+    proxy->setSourceModel(model);
 }
 
 void FeatureTreeWidget::Refresh()
