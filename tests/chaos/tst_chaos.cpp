@@ -11,8 +11,8 @@
 // A failure prints the seed and the step count that replay it exactly:
 //   tst_chaos --seed N --steps M        (or ZVC_CHAOS_SEED / ZVC_CHAOS_STEPS)
 // --features N (ZVC_CHAOS_FEATURES) sizes the synthetic node map (10 000 by
-// default). ZVC_CHAOS_CHECK_COUNTS adds the match count check, ZVC_CHAOS_CLEAR
-// the clearing of the tree, ZVC_CHAOS_TRACE prints every step.
+// default). ZVC_CHAOS_CHECK_COUNTS adds the match count check, ZVC_CHAOS_NO_CLEAR
+// leaves out the clearing of the tree, ZVC_CHAOS_TRACE prints every step.
 
 #include "../featuretreewidgettestsupport.h"
 
@@ -45,7 +45,8 @@ quint64 g_seed = 0;
 int g_steps = 0;
 int g_features = 10000;
 // The announced match counts can still differ from a walk of the model by a
-// few (see the report of issue 12); off unless asked for.
+// few (seed 1, 300 features, step 69: 57/10 announced, 61/14 walked); off
+// unless asked for until that is understood.
 bool g_checkCounts = false;
 
 const char* const kNodeMaps[]
@@ -508,7 +509,7 @@ QString TestChaos::checkCounts()
             const QModelIndex index = model->index(row, 0, parent);
             pending << index;
             const QString name = index.data(FeatureTreeItem::NodeNameRole).toString();
-            // The help line of an empty favourites list is left out: see the report of issue 12.
+            // The help line of an empty favourites list is a row of the model but no match of the proxy.
             if (name == QLatin1String("Root") || name == QLatin1String("Dummy")
                 || index.data(FeatureTreeItem::IsCategoryRole).toBool())
                 continue;
@@ -606,10 +607,9 @@ QString TestChaos::checkInvariants(const QString& what)
 void TestChaos::soak()
 {
     // Weights of the step kinds: gestures first, device events after.
-    // Clearing and re-adding the collections is off unless ZVC_CHAOS_CLEAR is
-    // set: the model drops its items without a reset that the proxy could
-    // follow (see the report of issue 12).
-    const int clearWeight = qEnvironmentVariableIsSet("ZVC_CHAOS_CLEAR") ? 1 : 0;
+    // Clearing and re-adding the collections is in the mix unless
+    // ZVC_CHAOS_NO_CLEAR is set, to tell its failures from the others'.
+    const int clearWeight = qEnvironmentVariableIsSet("ZVC_CHAOS_NO_CLEAR") ? 0 : 1;
     const int weights[] = { 8, 4, 10, 8, 12, 10, 4, 3, 8, 5, 5, 3, 2, clearWeight, 1 };
     int sum = 0;
     for (int weight : weights)
