@@ -780,8 +780,12 @@ QString NodeMapState::property(
     auto* node = static_cast<ArvGcNode*>(arvNode(entry));
     auto text
         = [&defaultValue](const char* value) { return value && *value ? QString::fromUtf8(value) : defaultValue; };
-    if (key == QLatin1String("DisplayName"))
-        return text(arv_gc_feature_node_get_display_name(ARV_GC_FEATURE_NODE(node)));
+    if (key == QLatin1String("DisplayName")) {
+        // A GenICam node without a display name of its own is shown by its name,
+        // as every GenICam viewer does; only a node that isn't there gives the default.
+        const char* displayName = arv_gc_feature_node_get_display_name(ARV_GC_FEATURE_NODE(node));
+        return text(displayName && *displayName ? displayName : entry.node.constData());
+    }
     if (key == QLatin1String("Description"))
         return text(arv_gc_feature_node_get_description(ARV_GC_FEATURE_NODE(node)));
     if (key == QLatin1String("Tooltip"))

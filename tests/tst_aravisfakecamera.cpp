@@ -1,6 +1,6 @@
 // A camera that nobody here wrote: Aravis's own fake GigE Vision camera,
 // answering on the loopback interface, opened through libZarvexAravis and
-// shown in FeatureTreeModel. Skipped, with the reason, where the fake camera
+// shown in FeatureTreeModel and in FeatureTreeWidget. Skipped, with the reason, where the fake camera
 // can't start; it never passes without having run.
 
 #include "arvglib.h"
@@ -12,11 +12,16 @@
 #include "featuretreetestsupport.h"
 
 #include "featuretree/featuretreeinodeitem.h"
+#include "featuretree/featuretreewidget.h"
+#include "featuretree/ifeaturetreemodelextension.h"
 #include "featuretree/nodemapfilter.h"
 #include "parameters/iparametercollection.h"
 
 #include <QElapsedTimer>
+#include <QTreeView>
+
 #include <QtTest>
+#include <functional>
 
 using namespace ParameterCollection;
 
@@ -29,6 +34,7 @@ private slots:
     void cleanupTestCase();
     void openFillWritePollAndLose_data();
     void openFillWritePollAndLose();
+    void editInTheWidgetAndLose();
 
 private:
     QString m_busy; //!< why the loopback interface can't be ours, or empty
@@ -208,6 +214,77 @@ void TestAravisFakeCamera::openFillWritePollAndLose()
     // The figures for the record; speed is never asserted here.
     qInfo("fake camera, %s: discovery %lld ms, open %lld ms, whole tree (%d features) %.2f ms, one poll %.2f ms",
         QTest::currentDataTag(), discoveryMs, openMs, features, fillMs, pollMs);
+}
+
+// The whole widget on the fake camera, as a viewer shows it: every category
+// expanded with its editors, a value written through the view's model, and the
+// camera lost while polling runs.
+void TestAravisFakeCamera::editInTheWidgetAndLose()
+{
+    if (!m_busy.isEmpty())
+        QSKIP(qPrintable(m_busy));
+    const QString serial = QStringLiteral("ZVC%1W").arg(QCoreApplication::applicationPid());
+    Aravis::FakeGigECamera camera(serial, QStringLiteral("lo"), QString());
+    if (!camera.isRunning())
+        QSKIP(qPrintable(camera.errorString()));
+    const QString deviceId = camera.findDeviceId();
+    if (deviceId.isEmpty())
+        QSKIP(qPrintable(QStringLiteral("arv_update_device_list() does not find the fake camera %1").arg(serial)));
+    QString error;
+    QSharedPointer<Aravis::AravisDevice> device = Aravis::AravisDevice::open(deviceId, &error);
+    QVERIFY2(device, qPrintable(error));
+    QSharedPointer<Aravis::AravisNodeMap> map = device->nodeMap(QStringLiteral("@CameraDevice"));
+    QVERIFY(map);
+
+    FeatureTreeWidget widget(QStringLiteral("fake camera"), device->baseInfo());
+    widget.setVisibility(GenApi::Guru);
+    widget.addParameterCollection(map, QStringLiteral("@CameraDevice"), QStringLiteral("@CameraDevice"), false);
+    widget.resize(600, 800);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QTreeView* view = widget.treeView();
+    // One category at a time, as a user opens them: each expansion opens the editors below it.
+    const std::function<void(const QModelIndex&)> expandBelow = [&](const QModelIndex& parent) {
+        for (int row = 0; row < view->model()->rowCount(parent); ++row) {
+            const QModelIndex index = view->model()->index(row, 0, parent);
+            if (view->model()->hasChildren(index)) {
+                view->expand(index);
+                expandBelow(index);
+            }
+        }
+    };
+    expandBelow(QModelIndex());
+    QCoreApplication::processEvents();
+
+    IFeatureTreeModelExtension* extension = widget.getFeatureExtension();
+    QVERIFY(extension);
+    const QModelIndex width = extension->findItemByFullName(QStringLiteral("@CameraDevice/Width"), nullptr, 1);
+    QVERIFY(width.isValid());
+    // Every category of the camera shows a name, its own where the document gives none.
+    QCOMPARE(width.parent().data().toString(), QString("ImageFormatControl"));
+    // Width, in the camera's own representation, is edited by a line edit that opens
+    // on a double click; its neighbours with sliders or lists have theirs open.
+    int editors = 0;
+    for (int row = 0; row < view->model()->rowCount(width.parent()); ++row)
+        editors += view->indexWidget(width.siblingAtRow(row)) ? 1 : 0;
+    QVERIFY(editors > 0);
+
+    ArvDevice* arv = device->arvDevice();
+    const gint64 newWidth = arv_device_get_integer_feature_value(arv, "Width", nullptr) == 256 ? 320 : 256;
+    QVERIFY(view->model()->setData(width, QString::number(newWidth), Qt::EditRole));
+    QCOMPARE(arv_device_get_integer_feature_value(arv, "Width", nullptr), newWidth);
+    QTRY_COMPARE(width.data().toString(), QString::number(newWidth));
+
+    widget.setPolling(true);
+    camera.stop();
+    QTRY_VERIFY_WITH_TIMEOUT(map->isLost(), 20000);
+    QTest::qWait(700); // more ticks on the lost device
+    widget.deviceIsClosed();
+    QCOMPARE(width.data().toString(), QString::number(newWidth));
+    view->collapseAll();
+    expandBelow(QModelIndex());
+    QCoreApplication::processEvents();
+    QCOMPARE(width.data().toString(), QString::number(newWidth));
 }
 
 QTEST_MAIN(TestAravisFakeCamera)

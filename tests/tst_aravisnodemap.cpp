@@ -400,9 +400,9 @@ void TestAravisNodeMap::properties_data()
     QTest::newRow("display name") << "ImageFormatControl"
                                   << "DisplayName"
                                   << "Image Format Control";
-    QTest::newRow("display name missing") << "GainSelectorReg"
-                                          << "DisplayName"
-                                          << "<default>";
+    QTest::newRow("display name missing is the name") << "GainSelectorReg"
+                                                      << "DisplayName"
+                                                      << "GainSelectorReg";
     QTest::newRow("tool tip") << "Width"
                               << "Tooltip"
                               << "Width of the image.";
