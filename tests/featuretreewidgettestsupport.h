@@ -119,6 +119,21 @@ private:
 };
 
 //! Counts the pixels of the image that have exactly this colour.
+//! Expands every category one by one, as a user's clicks would, so that the
+//! view's expanded() signal runs for each and the editors below it open.
+inline void expandEveryCategory(QTreeView* view, const QModelIndex& parent)
+{
+    QAbstractItemModel* model = view->model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex child = model->index(row, 0, parent);
+        if (model->hasChildren(child)) {
+            view->setExpanded(child, true);
+            expandEveryCategory(view, child);
+        }
+    }
+}
+
 inline int countPixels(const QImage& image, const QColor& colour)
 {
     const QRgb wanted = colour.rgb();

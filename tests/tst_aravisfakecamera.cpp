@@ -9,7 +9,7 @@
 #include "aravisnodemap.h"
 #include "fakegigecamera.h"
 
-#include "featuretreetestsupport.h"
+#include "featuretreewidgettestsupport.h"
 
 #include "featuretree/featuretreeinodeitem.h"
 #include "featuretree/featuretreewidget.h"
@@ -244,16 +244,7 @@ void TestAravisFakeCamera::editInTheWidgetAndLose()
     QVERIFY(QTest::qWaitForWindowExposed(&widget));
     QTreeView* view = widget.treeView();
     // One category at a time, as a user opens them: each expansion opens the editors below it.
-    const std::function<void(const QModelIndex&)> expandBelow = [&](const QModelIndex& parent) {
-        for (int row = 0; row < view->model()->rowCount(parent); ++row) {
-            const QModelIndex index = view->model()->index(row, 0, parent);
-            if (view->model()->hasChildren(index)) {
-                view->expand(index);
-                expandBelow(index);
-            }
-        }
-    };
-    expandBelow(QModelIndex());
+    TreeTest::expandEveryCategory(view, QModelIndex());
     QCoreApplication::processEvents();
 
     IFeatureTreeModelExtension* extension = widget.getFeatureExtension();
@@ -282,7 +273,7 @@ void TestAravisFakeCamera::editInTheWidgetAndLose()
     widget.deviceIsClosed();
     QCOMPARE(width.data().toString(), QString::number(newWidth));
     view->collapseAll();
-    expandBelow(QModelIndex());
+    TreeTest::expandEveryCategory(view, QModelIndex());
     QCoreApplication::processEvents();
     QCOMPARE(width.data().toString(), QString::number(newWidth));
 }

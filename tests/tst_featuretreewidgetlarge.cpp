@@ -21,20 +21,6 @@ using namespace TreeTest;
 
 namespace {
 
-//! Expands every category one by one, as a user's clicks would.
-void expandEveryCategory(QTreeView* view, const QModelIndex& parent)
-{
-    QAbstractItemModel* model = view->model();
-    const int rows = model->rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex child = model->index(row, 0, parent);
-        if (model->hasChildren(child)) {
-            view->setExpanded(child, true);
-            expandEveryCategory(view, child);
-        }
-    }
-}
-
 struct EditorCensus
 {
     int withEditor = 0;
