@@ -21,10 +21,11 @@ fi
 
 if [ "${1:-}" = "--tsan" ]; then
     # Many threads report while the GUI thread drains the queue. Qt itself is
-    # not instrumented, so only races in the library's own code are reported.
+    # not instrumented: tests/tsan.supp leaves out what happens inside Qt's own
+    # libraries, so that only races in the library's own code are reported.
     build="$root/build-tsan"
     options=(-DZVC_BUILD_TESTS=ON -DZVC_BUILD_VIEWER=OFF -DZVC_SANITIZE_THREAD=ON -DCMAKE_BUILD_TYPE=Debug)
-    export TSAN_OPTIONS="halt_on_error=1:second_deadlock_stack=1"
+    export TSAN_OPTIONS="halt_on_error=1:second_deadlock_stack=1:suppressions=$root/tests/tsan.supp"
     cmake -S "$root" -B "$build" -G Ninja "${options[@]}"
     cmake --build "$build" --parallel "$(nproc)" --target tst_errorreporting
     cd "$build"

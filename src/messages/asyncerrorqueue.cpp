@@ -1,8 +1,58 @@
 #include "asyncerrorqueue.h"
 
 #include <QMetaObject>
-#include <QMutexLocker>
 #include <QWidget>
+
+// g++ defines __SANITIZE_THREAD__ under -fsanitize=thread; clang tells by __has_feature.
+#if defined(__SANITIZE_THREAD__)
+#define ZVC_TSAN_MUTEX_ANNOTATIONS
+#elif defined(__has_feature)
+#if __has_feature(thread_sanitizer)
+#define ZVC_TSAN_MUTEX_ANNOTATIONS
+#endif
+#endif
+#ifdef ZVC_TSAN_MUTEX_ANNOTATIONS
+#include <sanitizer/tsan_interface.h>
+#endif
+
+namespace {
+
+// Locks the queue's QMutex for a scope. Qt's own libraries are not built with
+// ThreadSanitizer, so it cannot see the ordering QMutex gives, and it took
+// every append from two reporting threads for a race. In a ThreadSanitizer
+// build this tells it about the lock; otherwise it is a plain QMutexLocker.
+class QueueLocker
+{
+public:
+    explicit QueueLocker(QMutex* mutex)
+        : m_mutex(mutex)
+    {
+#ifdef ZVC_TSAN_MUTEX_ANNOTATIONS
+        __tsan_mutex_pre_lock(m_mutex, 0);
+#endif
+        m_mutex->lock();
+#ifdef ZVC_TSAN_MUTEX_ANNOTATIONS
+        __tsan_mutex_post_lock(m_mutex, 0, 0);
+#endif
+    }
+    ~QueueLocker()
+    {
+#ifdef ZVC_TSAN_MUTEX_ANNOTATIONS
+        __tsan_mutex_pre_unlock(m_mutex, 0);
+#endif
+        m_mutex->unlock();
+#ifdef ZVC_TSAN_MUTEX_ANNOTATIONS
+        __tsan_mutex_post_unlock(m_mutex, 0);
+#endif
+    }
+    QueueLocker(const QueueLocker&) = delete;
+    QueueLocker& operator=(const QueueLocker&) = delete;
+
+private:
+    QMutex* m_mutex;
+};
+
+} // namespace
 
 AsyncErrorQueue::AsyncErrorQueue(QObject* parent)
     : QObject(parent)
@@ -19,13 +69,13 @@ AsyncErrorQueue::~AsyncErrorQueue()
 
 int AsyncErrorQueue::count() const
 {
-    QMutexLocker locker(&m_mutex);
+    QueueLocker locker(&m_mutex);
     return m_entries.count();
 }
 
 void AsyncErrorQueue::clear()
 {
-    QMutexLocker locker(&m_mutex);
+    QueueLocker locker(&m_mutex);
     m_entries.clear();
 }
 
@@ -38,7 +88,7 @@ void AsyncErrorQueue::reportErrorAsync(
     entry.details = details;
     entry.parent = parent;
     {
-        QMutexLocker locker(&m_mutex);
+        QueueLocker locker(&m_mutex);
         m_entries.append(entry);
     }
     // Outside the lock: a slot of displayError may report again.
@@ -49,7 +99,7 @@ void AsyncErrorQueue::asyncSignaler()
 {
     AsyncErrorEntry entry;
     {
-        QMutexLocker locker(&m_mutex);
+        QueueLocker locker(&m_mutex);
         if (m_entries.isEmpty())
             return;
         // The newest entry goes first; piled-up entries come out last-in, first-out.
