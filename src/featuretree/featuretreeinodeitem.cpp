@@ -12,7 +12,6 @@
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QPointer>
 #include <QUuid>
 #include <QVarLengthArray>
 #include <QVector>
@@ -36,35 +35,46 @@ namespace {
 struct Subscription
 {
     FeatureTreeINodeItem* first = nullptr;
-    QVector<FeatureTreeINodeItem*> more; // a favourite twin, rarely more
+    // Numbers the connection made for this entry (see subscribe()).
+    quint32 serial = 0;
+    // Other items subscribed as well (a favourite twin, a second model): kept
+    // in Subscriptions::more, which is empty for nearly every parameter.
+    bool hasMore = false;
 };
 
 struct Subscriptions
 {
     QObject context;
     QHash<const IParameter*, Subscription> byParameter;
+    QHash<const IParameter*, QVector<FeatureTreeINodeItem*>> more;
+    quint32 lastSerial = 0;
 
-    void deliver(const IParameter* parameter, const QSharedPointer<const ParameterData>& data)
+    void deliver(const IParameter* parameter, quint32 serial, const QSharedPointer<const ParameterData>& data)
     {
         const auto found = byParameter.constFind(parameter);
-        if (found == byParameter.constEnd())
+        if (found == byParameter.constEnd() || found->serial != serial)
             return;
         // A copy: an item's update may reach code that subscribes or unsubscribes.
         QVarLengthArray<FeatureTreeINodeItem*, 4> items;
         items.append(found->first);
-        for (FeatureTreeINodeItem* item : found->more)
-            items.append(item);
+        if (found->hasMore) {
+            for (FeatureTreeINodeItem* item : more.value(parameter))
+                items.append(item);
+        }
         for (FeatureTreeINodeItem* item : items) {
-            if (isSubscribed(parameter, item))
+            if (isSubscribed(parameter, serial, item))
                 item->onParameterDataChanged(data);
         }
     }
 
-    bool isSubscribed(const IParameter* parameter, const FeatureTreeINodeItem* item) const
+    bool isSubscribed(const IParameter* parameter, quint32 serial, const FeatureTreeINodeItem* item) const
     {
         const auto found = byParameter.constFind(parameter);
-        return found != byParameter.constEnd()
-            && (found->first == item || found->more.contains(const_cast<FeatureTreeINodeItem*>(item)));
+        if (found == byParameter.constEnd() || found->serial != serial)
+            return false;
+        if (found->first == item)
+            return true;
+        return found->hasMore && more.value(parameter).contains(const_cast<FeatureTreeINodeItem*>(item));
     }
 };
 
@@ -99,10 +109,9 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     QSharedPointer<IParameter> node, const QString& displayedName, IFeatureTreeModelExtension* extension,
     const QString& fullName, FeatureTreeItem* parent, bool textAsUtf8)
     : FeatureTreeItem(displayedName, extension, fullName, parent)
+    , m_textAsUtf8(textAsUtf8)
     , m_collection(std::move(collection))
     , m_node(std::move(node))
-    , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(translationContextOf(fullName))
 {
     initInternal();
 }
@@ -111,10 +120,9 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     QSharedPointer<IParameter> node, IFeatureTreeModelExtension* extension, const QString& fullName,
     FeatureTreeItem* parent, bool textAsUtf8)
     : FeatureTreeItem(QString(), extension, fullName, parent)
+    , m_textAsUtf8(textAsUtf8)
     , m_collection(std::move(collection))
     , m_node(std::move(node))
-    , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(translationContextOf(fullName))
 {
     QString displayName;
     initInternal(&displayName);
@@ -130,6 +138,8 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
 
 FeatureTreeINodeItem::~FeatureTreeINodeItem()
 {
+    if (m_notifiesModel && !m_childrenFetched && m_node)
+        --static_cast<FeatureTreeModel*>(m_extension)->m_unfetchedCategories;
     unsubscribe();
     clearChildren();
 }
@@ -141,15 +151,19 @@ void FeatureTreeINodeItem::subscribe()
     Subscription& subscription = all.byParameter[parameter];
     if (!subscription.first) {
         subscription.first = this;
-        // The guard drops a change still queued for a parameter that has gone since: a new
-        // parameter may by then live at the same address and must not receive it.
+        // Each connection gets a number of its own, which its deliveries carry.
+        // A change still queued for a parameter that has gone since is dropped
+        // by it: a new parameter may by then live at the same address, and its
+        // entry has a newer number. (A QPointer to the parameter did the same
+        // at the cost of a shared reference count block per parameter.)
+        subscription.serial = ++all.lastSerial;
+        const quint32 serial = subscription.serial;
         connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
-            [parameter, guard = QPointer<IParameter>(parameter)](QSharedPointer<const ParameterData> data) {
-                if (guard)
-                    subscriptions().deliver(parameter, data);
-            });
+            [parameter, serial](
+                QSharedPointer<const ParameterData> data) { subscriptions().deliver(parameter, serial, data); });
     } else {
-        subscription.more.append(this);
+        subscription.hasMore = true;
+        all.more[parameter].append(this);
     }
     m_subscribed = true;
 }
@@ -160,19 +174,32 @@ void FeatureTreeINodeItem::unsubscribe()
         return;
     m_subscribed = false;
     Subscriptions& all = subscriptions();
-    const auto found = all.byParameter.find(m_node.data());
+    const IParameter* parameter = m_node.data();
+    const auto found = all.byParameter.find(parameter);
     if (found == all.byParameter.end())
         return;
-    if (found->first == this) {
-        if (found->more.isEmpty()) {
-            // The parameter's only connection to the context.
-            QObject::disconnect(m_node.data(), &IParameter::parameterDataChangedDecoupled, &all.context, nullptr);
-            all.byParameter.erase(found);
-            return;
+    if (found->first != this) {
+        const auto others = all.more.find(parameter);
+        if (others != all.more.end()) {
+            others->removeOne(this);
+            if (others->isEmpty()) {
+                all.more.erase(others);
+                found->hasMore = false;
+            }
         }
-        found->first = found->more.takeFirst();
-    } else {
-        found->more.removeOne(this);
+        return;
+    }
+    const auto others = found->hasMore ? all.more.find(parameter) : all.more.end();
+    if (others == all.more.end()) {
+        // The parameter's only connection to the context.
+        QObject::disconnect(m_node.data(), &IParameter::parameterDataChangedDecoupled, &all.context, nullptr);
+        all.byParameter.erase(found);
+        return;
+    }
+    found->first = others->takeFirst();
+    if (others->isEmpty()) {
+        all.more.erase(others);
+        found->hasMore = false;
     }
 }
 
@@ -228,6 +255,8 @@ int FeatureTreeINodeItem::childCount()
         // Set first: the model's own row calls during the fill must not fill again,
         // and a fill that failed is not tried again.
         m_childrenFetched = true;
+        if (m_notifiesModel)
+            --static_cast<FeatureTreeModel*>(m_extension)->m_unfetchedCategories;
         if (IFeatureTreeModelExtension* extension = getExtension())
             extension->addChildren(this);
     }
@@ -330,7 +359,7 @@ QVariant FeatureTreeINodeItem::toolTip() const
 {
     try {
         const QByteArray key = QStringLiteral("%1_Tooltip").arg(m_name).toLatin1();
-        const QByteArray context = m_translationContext.toLatin1();
+        const QByteArray context = translationContext().toLatin1();
         const QString translated = QCoreApplication::translate(context.constData(), key.constData());
         const QString text = (translated.toLatin1() == key) ? m_toolTipText : translated;
 
@@ -511,6 +540,13 @@ QSharedPointer<IParameterCollection> FeatureTreeINodeItem::collection() const
     return m_collection;
 }
 
+QString FeatureTreeINodeItem::translationContext() const
+{
+    // The full name never changes, so neither does its node map's context:
+    // derived when asked (for tool tips) instead of held by every item.
+    return translationContextOf(m_fullName);
+}
+
 void FeatureTreeINodeItem::setHighlighter(FeatureTreeHighlighter* highlighter)
 {
     m_highlighter = highlighter;
@@ -564,7 +600,7 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
     const int itemRow = row();
     // The model that built the item learns first, as a connection made when the
     // item was built would, and not while the item's signals are blocked.
-    if (m_model && !signalsBlocked())
-        m_model->onNodeUpdated(itemRow, this);
+    if (m_notifiesModel && !signalsBlocked())
+        static_cast<FeatureTreeModel*>(m_extension)->onNodeUpdated(itemRow, this);
     emit nodeUpdated(itemRow, this);
 }

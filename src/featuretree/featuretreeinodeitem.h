@@ -61,7 +61,7 @@ public:
 
     void setHighlighter(FeatureTreeHighlighter* highlighter);
     FeatureTreeHighlighter* highlighter() const { return m_highlighter; }
-    QString translationContext() const { return m_translationContext; }
+    QString translationContext() const;
 
 signals:
     void nodeUpdated(int row, FeatureTreeINodeItem* item);
@@ -82,11 +82,20 @@ private:
     //! Qt::DisplayRole of the name column, without a QVariant around it.
     const QString& displayText() const;
 
+    // A tree of the largest cameras holds 100 000 of these, so the layout is
+    // kept tight: the flags come first, where they fill the tail of the base
+    // class instead of padding of their own, and what every item of a node
+    // map would hold alike is not stored (the translation context is derived
+    // from the full name, the model is the extension).
+    bool m_textAsUtf8;
+    bool m_subscribed = false;
+    // Built and connected by a FeatureTreeModel, which is then the extension
+    // and is told of updates directly (see FeatureTreeModel::connectItem); it
+    // owns the item, so outlives it.
+    bool m_notifiesModel = false;
     QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
     QSharedPointer<ParameterCollection::IParameter> m_node;
     QSharedPointer<const ParameterCollection::ParameterData> m_parameterData;
-    bool m_textAsUtf8;
-    QString m_translationContext;
     FeatureTreeHighlighter* m_highlighter = nullptr; // not owned
     QString m_unit;
     QString m_descriptionText;
@@ -94,8 +103,4 @@ private:
     QString m_docuUrl;
     QString m_name;
     mutable QString m_titleWithUnit; // "<displayed name> [<unit>]", built on first request
-    // The model that built the item and is told of its updates directly
-    // (see FeatureTreeModel::connectItem); it owns the item, so outlives it.
-    FeatureTreeModel* m_model = nullptr;
-    bool m_subscribed = false;
 };

@@ -280,8 +280,11 @@ void FeatureTreeModel::connectItem(FeatureTreeINodeItem* item)
     // The item calls onNodeUpdated() itself, before it emits nodeUpdated. A
     // connection per item cost the item a connection list of its own, some
     // 200 bytes a row, and the parsing of two signatures for every row built.
-    // The model owns every item it connects, so the pointer never outlives it.
-    item->m_model = this;
+    // The model owns every item it connects, so the item never outlives it.
+    Q_ASSERT(item->m_extension == static_cast<IFeatureTreeModelExtension*>(this));
+    item->m_notifiesModel = true;
+    if (!item->m_childrenFetched && item->m_node)
+        ++m_unfetchedCategories;
 }
 
 void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollection> collection,
@@ -360,6 +363,8 @@ void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
         return;
     const QModelIndex parentIndex = indexForItem(nodeItem, 0);
     beginInsertRows(parentIndex, 0, built.count() - 1);
+    // One block of the right size for the list, instead of the slack of growing it.
+    nodeItem->m_children.reserve(nodeItem->m_children.count() + built.count());
     for (FeatureTreeINodeItem* item : qAsConst(built))
         nodeItem->appendChild(item);
     endInsertRows();

@@ -41,8 +41,17 @@ const FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel() const
 
 void FeatureTreeProxyModel::fillSourceLevel(const QModelIndex& parent) const
 {
-    if (QAbstractItemModel* source = sourceModel())
-        source->rowCount(mapToSource(parent));
+    QAbstractItemModel* source = sourceModel();
+    if (!source)
+        return;
+    // A view asks this for every row it walks. Once a FeatureTreeModel has
+    // fetched every category it has nothing left to fill, and the mapping of
+    // the parent to the source (about a tenth of a search keystroke on a large
+    // tree) is spared.
+    if (source->metaObject() == &FeatureTreeModel::staticMetaObject
+        && static_cast<const FeatureTreeModel*>(source)->m_unfetchedCategories == 0)
+        return;
+    source->rowCount(mapToSource(parent));
 }
 
 QModelIndex FeatureTreeProxyModel::index(int row, int column, const QModelIndex& parent) const
@@ -193,9 +202,9 @@ bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIn
     }
     // The search help line passes without matching.
     // (Its name role is its full name, so only a row named "Search" needs the look.)
-    const FeatureTreeModel* model = getFeatureTreeModel();
-    if (model && name == QLatin1String("Search")) {
-        const FeatureTreeItem* item = model->getFeatureTreeItem(index);
+    if (name == QLatin1String("Search")) {
+        const FeatureTreeModel* model = getFeatureTreeModel();
+        const FeatureTreeItem* item = model ? model->getFeatureTreeItem(index) : nullptr;
         if (item && item->getFullName() == QLatin1String("Search"))
             hit = true;
     }
