@@ -95,6 +95,36 @@ QString translationContextOf(const QString& fullName)
     return lastContext;
 }
 
+QString representationOf(const IAdvancedParameterAccess* access)
+{
+    return access ? access->getProperty(QStringLiteral("Representation")) : QString();
+}
+
+// The editor type rule for a live node; representation() gives its
+// "Representation", asked only of numbers.
+template <typename Representation> int editorTypeOfKind(const IParameter& node, Representation representation)
+{
+    const auto isSliderRepresentation
+        = [](const QString& text) { return text == QLatin1String("Linear") || text == QLatin1String("Logarithmic"); };
+    switch (node.getType()) {
+    case TypeInteger:
+        return isSliderRepresentation(representation()) ? FeatureTreeItem::EditorIntSlider : FeatureTreeItem::EditorInt;
+    case TypeFloat:
+        return isSliderRepresentation(representation()) ? FeatureTreeItem::EditorFloatSlider
+                                                        : FeatureTreeItem::EditorFloat;
+    case TypeEnumeration:
+        return FeatureTreeItem::EditorEnum;
+    case TypeBoolean:
+        return FeatureTreeItem::EditorBool;
+    case TypeString:
+        return FeatureTreeItem::EditorString;
+    case TypeCommand:
+        return FeatureTreeItem::EditorCommand;
+    default:
+        return FeatureTreeItem::EditorNone;
+    }
+}
+
 Subscriptions& subscriptions()
 {
     // Made on the thread of the first item, which is the thread of the widgets,
@@ -215,8 +245,14 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
         return;
     }
 
+    // Kept for the editor type's "Representation" below: asking the node for
+    // its advanced access again made a second access object per number feature.
+    QSharedPointer<IAdvancedParameterAccess> access;
+    bool accessKnown = false;
     try {
-        if (const QSharedPointer<IAdvancedParameterAccess> access = m_node->advancedAccess()) {
+        access = m_node->advancedAccess();
+        accessKnown = true;
+        if (access) {
             m_unit = access->getProperty(QStringLiteral("Unit"), QString());
             m_descriptionText = access->getProperty(QStringLiteral("Description"), QString());
             m_toolTipText = access->getProperty(QStringLiteral("Tooltip"), QString());
@@ -235,7 +271,12 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
         QSharedPointer<const ParameterData> data = m_node->getParameterData();
         m_parameterData = data ? data : ParameterData::createPlaceholder();
         m_childrenFetched = (m_parameterData->type != TypeCategory);
-        m_editorType = editorType(m_node);
+        if (!accessKnown)
+            m_editorType = editorType(m_node);
+        else if (m_node->isZombie())
+            m_editorType = EditorInvalid;
+        else
+            m_editorType = editorTypeOfKind(*m_node, [&access] { return representationOf(access.data()); });
     } catch (...) {
         ExceptionLogging::logCurrentException(
             "initInternal", QStringLiteral("Exception fired when caching parameter data"));
@@ -496,28 +537,7 @@ int FeatureTreeINodeItem::editorType(QSharedPointer<IParameter> node)
 {
     if (!node || node->isZombie())
         return EditorInvalid;
-    const auto representation = [&node]() {
-        const QSharedPointer<IAdvancedParameterAccess> access = node->advancedAccess();
-        return access ? access->getProperty(QStringLiteral("Representation")) : QString();
-    };
-    const auto isSliderRepresentation
-        = [](const QString& text) { return text == QLatin1String("Linear") || text == QLatin1String("Logarithmic"); };
-    switch (node->getType()) {
-    case TypeInteger:
-        return isSliderRepresentation(representation()) ? EditorIntSlider : EditorInt;
-    case TypeFloat:
-        return isSliderRepresentation(representation()) ? EditorFloatSlider : EditorFloat;
-    case TypeEnumeration:
-        return EditorEnum;
-    case TypeBoolean:
-        return EditorBool;
-    case TypeString:
-        return EditorString;
-    case TypeCommand:
-        return EditorCommand;
-    default:
-        return EditorNone;
-    }
+    return editorTypeOfKind(*node, [&node] { return representationOf(node->advancedAccess().data()); });
 }
 
 int FeatureTreeINodeItem::editorType(const FeatureTreeINodeItem* item)

@@ -148,6 +148,49 @@ bool FeatureTreeProxyModel::readFilterFields(const QModelIndex& index, void* fie
     return true;
 }
 
+void FeatureTreeProxyModel::MatchSet::insert(const QString& name)
+{
+    // At most half full, so that a probe ends soon at an empty slot.
+    if (2 * (used + 1) > int(table.size()))
+        grow();
+    const uint hash = qHash(name);
+    const size_t mask = table.size() - 1;
+    for (size_t i = hash & mask;; i = (i + 1) & mask) {
+        Slot& slot = table[i];
+        if (slot.pass == 0) {
+            slot.name = name;
+            slot.hash = hash;
+            slot.pass = pass;
+            ++used;
+            ++count;
+            return;
+        }
+        if (slot.hash == hash && slot.name == name) {
+            if (slot.pass != pass) {
+                slot.pass = pass;
+                ++count;
+            }
+            return;
+        }
+    }
+}
+
+void FeatureTreeProxyModel::MatchSet::grow()
+{
+    std::vector<Slot> old;
+    old.swap(table);
+    table.resize(qMax<size_t>(1024, 2 * old.size()));
+    const size_t mask = table.size() - 1;
+    for (Slot& slot : old) {
+        if (slot.pass == 0)
+            continue;
+        size_t i = slot.hash & mask;
+        while (table[i].pass != 0)
+            i = (i + 1) & mask;
+        table[i] = std::move(slot);
+    }
+}
+
 bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIndex& sourceParent) const
 {
     const QAbstractItemModel* source = sourceModel();

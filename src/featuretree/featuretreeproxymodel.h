@@ -7,6 +7,8 @@
 #include <QRegExp>
 #include <QSortFilterProxyModel>
 
+#include <vector>
+
 class FeatureTreeModel;
 
 /*!
@@ -117,28 +119,40 @@ private:
     // the number of the last pass that saw it, so that a new pass costs a
     // counter instead of freeing and allocating a table entry per feature
     // again; on a large tree that was a tenth of a keystroke.
+    //
+    // The names sit in one open-addressed table rather than a QHash: a QHash
+    // look-up reads a bucket and then a node allocated apart, two cache misses
+    // per matching row on a tree too large for the cache, where the table's
+    // slot holds name, hash and pass together.
     struct MatchSet
     {
-        QHash<QString, quint32> lastPass;
+        struct Slot
+        {
+            QString name;
+            uint hash = 0;
+            quint32 pass = 0; // 0: an empty slot
+        };
+        std::vector<Slot> table; // a power of two in size, or empty
+        int used = 0; // slots holding a name
         quint32 pass = 1;
         int count = 0;
 
         void startPass()
         {
             // Names no longer seen are dropped now and then, not on every pass.
-            if (lastPass.size() > 2 * count + 1024)
-                lastPass.clear();
-            ++pass;
+            if (used > 2 * count + 1024) {
+                table.clear();
+                used = 0;
+            }
+            // Pass 0 marks empty slots and is never used.
+            if (++pass == 0)
+                pass = 1;
             count = 0;
         }
-        void insert(const QString& name)
-        {
-            quint32& seen = lastPass[name];
-            if (seen != pass) {
-                seen = pass;
-                ++count;
-            }
-        }
+        void insert(const QString& name);
+
+    private:
+        void grow();
     };
     // Filled during const filtering.
     mutable MatchSet m_visibleMatches;
