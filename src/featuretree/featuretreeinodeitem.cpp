@@ -140,8 +140,8 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     const QString& fullName, FeatureTreeItem* parent, bool textAsUtf8)
     : FeatureTreeItem(displayedName, extension, fullName, parent)
     , m_textAsUtf8(textAsUtf8)
-    , m_collection(std::move(collection))
     , m_node(std::move(node))
+    , m_collection(std::move(collection))
 {
     initInternal();
 }
@@ -151,8 +151,8 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     FeatureTreeItem* parent, bool textAsUtf8)
     : FeatureTreeItem(QString(), extension, fullName, parent)
     , m_textAsUtf8(textAsUtf8)
-    , m_collection(std::move(collection))
     , m_node(std::move(node))
+    , m_collection(std::move(collection))
 {
     QString displayName;
     initInternal(&displayName);
@@ -370,14 +370,12 @@ const QString& FeatureTreeINodeItem::displayText() const
     if (m_unit.isEmpty())
         return m_displayedName;
     // Painting and every search pass ask for this text: build it once
-    // per displayed name instead of on every request.
-    // The title was built from the present displayed name when it is that name
-    // followed by " [<unit>]"; the unit never changes.
-    const bool current = !m_titleWithUnit.isNull()
-        && m_titleWithUnit.size() == m_displayedName.size() + m_unit.size() + 3
-        && m_titleWithUnit.startsWith(m_displayedName);
-    if (!current) {
+    // per displayed name instead of on every request. The base class tells
+    // when the displayed name was set, so that the check reads no text; the
+    // unit never changes.
+    if (m_displayedNameChanged || m_titleWithUnit.isNull()) {
         m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+        m_displayedNameChanged = false;
     }
     return m_titleWithUnit;
 }
