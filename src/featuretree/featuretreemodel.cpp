@@ -77,7 +77,21 @@ QModelIndex FeatureTreeModel::index(int row, int column, const QModelIndex& pare
     if (!parentItem)
         return QModelIndex();
     FeatureTreeItem* child = parentItem->child(row);
-    return child ? createIndex(row, column, child) : QModelIndex();
+    if (!child)
+        return QModelIndex();
+#if defined(__GNUC__)
+    // Views, the proxy and copies walk the rows of a level in order, and on a
+    // tree too large for the cache each item is a miss: start loading the
+    // next sibling's item while this row is read. (Reading DisplayRole of
+    // every row of 100 000 features took half as long again without it.)
+    if (FeatureTreeItem* next = parentItem->child(row + 1)) {
+        const char* bytes = reinterpret_cast<const char*>(next);
+        __builtin_prefetch(bytes);
+        __builtin_prefetch(bytes + 64);
+        __builtin_prefetch(bytes + 128);
+    }
+#endif
+    return createIndex(row, column, child);
 }
 
 QModelIndex FeatureTreeModel::parent(const QModelIndex& index) const
