@@ -83,6 +83,22 @@ const QByteArray searchCamera = deviceJson(R"(
     ] }
 )");
 
+// Display names and a unit with letters outside ASCII whose case folding
+// meets ASCII letters or other letters: a Kelvin sign (folds to "k"), a long
+// s (to "s"), a micro sign (to the Greek mu, as does the capital mu), an
+// accented capital and a sharp s (which simple folding leaves alone).
+const QByteArray foldingCamera = cameraJson(R"(
+    { "name": "Root", "type": "Category", "children": ["Units", "Words"] },
+    { "name": "Units", "type": "Category", "displayName": "Units", "children": ["Thermo", "Micro"] },
+    { "name": "Thermo", "type": "Integer", "displayName": "Degrees \u212A", "value": 1, "min": 0, "max": 9 },
+    { "name": "Micro", "type": "Float", "displayName": "Size", "unit": "\u00B5m", "value": 1, "min": 0, "max": 9 },
+    { "name": "Words", "type": "Category", "displayName": "Words", "children": ["LongS", "Accent", "Sharp", "PlainGain"] },
+    { "name": "LongS", "type": "Boolean", "displayName": "Ca\u017Fe", "value": true },
+    { "name": "Accent", "type": "Boolean", "displayName": "\u00C9clair", "value": true },
+    { "name": "Sharp", "type": "Boolean", "displayName": "Stra\u00DFe", "value": true },
+    { "name": "PlainGain", "type": "Float", "displayName": "Plain Gain", "value": 1, "min": 0, "max": 4 }
+)");
+
 FavoritesData& store()
 {
     return FeatureTreeModel::m_favorites;
@@ -444,6 +460,8 @@ private slots:
     // The rule, one edge at a time.
     void searchFindsDisplayOrFeatureNameInAnyCase_data();
     void searchFindsDisplayOrFeatureNameInAnyCase();
+    void searchFoldsCaseAsQStringDoes_data();
+    void searchFoldsCaseAsQStringDoes();
     void starAndQuestionMarkAreOrdinaryCharacters_data();
     void starAndQuestionMarkAreOrdinaryCharacters();
     void featureInTreeAndFavoritesCountsOnce();
@@ -1059,6 +1077,42 @@ void TestFeatureTreeProxyModel::searchFindsDisplayOrFeatureNameInAnyCase()
     else
         QCOMPARE(tree.proxy.getVisibleMatchCount(), 0);
     QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+}
+
+void TestFeatureTreeProxyModel::searchFoldsCaseAsQStringDoes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("hits");
+    QTest::newRow("ASCII, other case") << "PLAIN gAIN" << 1;
+    QTest::newRow("ASCII across a space") << "n g" << 1;
+    QTest::newRow("ASCII text, Kelvin sign in the display name") << "k" << 1;
+    QTest::newRow("ASCII text, long s in the display name") << "CASE" << 1;
+    QTest::newRow("long s as the text") << QString(QChar(0x017F)) << 4;
+    QTest::newRow("capital mu as the text, micro sign in the unit") << QString(QChar(0x039C)) << 1;
+    QTest::newRow("accented capital against its small letter") << QString(QChar(0x00C9)) + QStringLiteral("CLAIR") << 1;
+    QTest::newRow("sharp s is not two letters") << "STRASSE" << 0;
+    QTest::newRow("sharp s itself") << QStringLiteral("stra") + QChar(0x00DF) << 1;
+    QTest::newRow("no match") << "zq" << 0;
+}
+
+void TestFeatureTreeProxyModel::searchFoldsCaseAsQStringDoes()
+{
+    // The proxy finds a feature exactly where QString::contains, ignoring
+    // case, finds the text in its display text or its name (the independent
+    // rules above use it), whatever the letters.
+    QFETCH(QString, text);
+    QFETCH(int, hits);
+    SearchTree tree(foldingCamera);
+    QVERIFY(tree.device);
+    tree.add(camera);
+    QVERIFY(fillCompletely(tree.model) >= 9);
+    const QStringList shown = search(tree.proxy, text);
+    const Expected expected = expectedFor(tree.model, text, GenApi::Guru);
+    QCOMPARE(shown, expected.shown);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), expected.visible.count());
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+    // The texts chosen really find what they are meant to.
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), hits);
 }
 
 void TestFeatureTreeProxyModel::starAndQuestionMarkAreOrdinaryCharacters_data()

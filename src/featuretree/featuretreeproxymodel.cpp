@@ -7,6 +7,7 @@
 #include "featuretreemodel.h"
 
 #include <QRegExp>
+#include <QVector>
 
 using namespace ParameterCollection;
 
@@ -72,13 +73,77 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex& parent) const
     return QSortFilterProxyModel::hasChildren(parent);
 }
 
+namespace {
+
+// The search text folded to lower case, for the case-insensitive test below,
+// kept with the text it was made from.
+struct FoldedPattern
+{
+    QString source;
+    QVector<ushort> folded;
+    bool ascii = false;
+
+    void set(const QString& pattern)
+    {
+        source = pattern;
+        folded.resize(pattern.size());
+        ascii = true;
+        for (int i = 0; i < pattern.size(); ++i) {
+            const ushort c = pattern.at(i).unicode();
+            ascii = ascii && c < 0x80;
+            folded[i] = (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c;
+        }
+    }
+};
+
+// QString::contains(pattern, Qt::CaseInsensitive) where pattern and text are
+// ASCII, which feature names are: Qt's search folds every character through
+// the Unicode tables and took more time than the rest of the filter per row.
+// Gives -1 where it can't tell (text or pattern not ASCII, where Unicode
+// folding may map other characters onto letters), 0 or 1 otherwise.
+int containsAsciiIgnoringCase(const QString& text, const FoldedPattern& pattern)
+{
+    const int needleSize = pattern.folded.size();
+    if (!pattern.ascii || needleSize == 0)
+        return -1;
+    const ushort* haystack = reinterpret_cast<const ushort*>(text.constData());
+    const int size = text.size();
+    for (int i = 0; i < size; ++i) {
+        if (haystack[i] >= 0x80)
+            return -1;
+    }
+    const ushort* needle = pattern.folded.constData();
+    const auto fold = [](ushort c) { return (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c; };
+    for (int start = 0; start + needleSize <= size; ++start) {
+        int i = 0;
+        while (i < needleSize && fold(haystack[start + i]) == needle[i])
+            ++i;
+        if (i == needleSize)
+            return 1;
+    }
+    return 0;
+}
+
+} // namespace
+
 bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
 {
     if (!m_patternCached)
         m_pattern = filterRegExp();
     // A fixed string, as the widget sets it, needs no regular expression machinery.
-    if (m_pattern.patternSyntax() == QRegExp::FixedString)
-        return text.contains(m_pattern.pattern(), m_pattern.caseSensitivity());
+    if (m_pattern.patternSyntax() == QRegExp::FixedString) {
+        const QString pattern = m_pattern.pattern();
+        if (m_pattern.caseSensitivity() == Qt::CaseInsensitive) {
+            // Folded once per search text (the texts are compared by identity).
+            thread_local FoldedPattern folded;
+            if (!pattern.isSharedWith(folded.source) || folded.source.isNull())
+                folded.set(pattern);
+            const int found = containsAsciiIgnoringCase(text, folded);
+            if (found >= 0)
+                return found == 1;
+        }
+        return text.contains(pattern, m_pattern.caseSensitivity());
+    }
     return m_pattern.indexIn(text) != -1;
 }
 
@@ -196,8 +261,13 @@ bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIn
     const QAbstractItemModel* source = sourceModel();
     if (!source)
         return false;
-    const QModelIndex index = source->index(sourceRow, 0, sourceParent);
-    if (!index.isValid())
+    return filterAcceptsIndexItself(source->index(sourceRow, 0, sourceParent));
+}
+
+bool FeatureTreeProxyModel::filterAcceptsIndexItself(const QModelIndex& index) const
+{
+    const QAbstractItemModel* source = sourceModel();
+    if (!source || !index.isValid())
         return false;
 
     if (!m_patternCached)
@@ -310,9 +380,11 @@ bool FeatureTreeProxyModel::filterAcceptsRowOrRelative(int sourceRow, const QMod
 {
     if (filterAcceptsRowItself(sourceRow, sourceParent))
         return true;
-    // The descendants of a hit stay visible.
+    // The descendants of a hit stay visible. Each ancestor is judged by the
+    // index at hand: asking for it again by row under its own parent cost a
+    // parent() and an index() per level for every row that isn't a hit.
     for (QModelIndex ancestor = sourceParent; ancestor.isValid(); ancestor = ancestor.parent()) {
-        if (filterAcceptsRowItself(ancestor.row(), ancestor.parent()))
+        if (filterAcceptsIndexItself(ancestor.column() == 0 ? ancestor : ancestor.sibling(ancestor.row(), 0)))
             return true;
     }
     return hasAcceptedChildren(sourceRow, sourceParent, 0);

@@ -108,6 +108,8 @@ protected:
 private:
     //! Lets the model fill the source level below parent, outside any mapping of the base class.
     void fillSourceLevel(const QModelIndex& parent) const;
+    //! filterAcceptsRowItself for the row of a source index in column 0.
+    bool filterAcceptsIndexItself(const QModelIndex& index) const;
     bool matchesFilter(const QString& text) const;
     bool filterAcceptsRowOrRelative(int sourceRow, const QModelIndex& sourceParent) const;
     //! Fills the filter's fields of a row from its item; false where only data() can tell.
