@@ -146,9 +146,13 @@ private:
                 table.clear();
                 used = 0;
             }
-            // Pass 0 marks empty slots and is never used.
-            if (++pass == 0)
+            // Pass 0 marks empty slots; when the number wraps, old slots
+            // could pass for this pass's, so the table starts afresh.
+            if (++pass == 0) {
+                table.clear();
+                used = 0;
                 pass = 1;
+            }
             count = 0;
         }
         void insert(const QString& name);
