@@ -15,6 +15,7 @@
 // leaves out the clearing of the tree, ZVC_CHAOS_TRACE prints every step.
 
 #include "../featuretreewidgettestsupport.h"
+#include "modelsignalchecks.h"
 
 #include "featuretree/favoritesdata.h"
 #include "featuretree/featuretreeitem.h"
@@ -26,6 +27,7 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -88,6 +90,7 @@ private:
     QString randomFullName();
     QString step(int kind);
     QString checkInvariants(const QString& what);
+    void walkModel();
     QString checkCounts();
     QString checkEditors();
     QString checkFavourites();
@@ -101,7 +104,19 @@ private:
     std::unique_ptr<FeatureTreeWidget> m_second;
     std::unique_ptr<ModelTesterReports> m_reports;
     std::unique_ptr<ViewLikeProxy> m_viewLike;
-    std::unique_ptr<QAbstractItemModelTester> m_tester;
+    std::unique_ptr<ModelSignalChecks> m_signalChecks;
+    // Where the time goes, in nanoseconds: per step kind, and per check.
+    template <typename Work> static void timed(qint64& total, Work work)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        total += timer.nsecsElapsed();
+    }
+    qint64 m_walkTime = 0;
+    qint64 m_countsTime = 0;
+    qint64 m_editorsTime = 0;
+    int m_structuralSeen = 0; // m_signalChecks->structuralChanges() at the last whole walk
     QList<Shadow> m_shadow;
     QList<int> m_lastCounts; // the last filterMatchesChanged(total, hidden)
     bool m_countsAnnounced = false;
@@ -139,7 +154,7 @@ void TestChaos::initTestCase()
 
 void TestChaos::cleanupTestCase()
 {
-    m_tester.reset();
+    m_signalChecks.reset();
     m_viewLike.reset();
     m_reports.reset();
     m_second.reset();
@@ -159,7 +174,7 @@ void TestChaos::addCollections(FeatureTreeWidget& widget)
 
 void TestChaos::build()
 {
-    m_tester.reset();
+    m_signalChecks.reset();
     m_viewLike.reset();
     m_reports.reset();
     m_widget.reset(new FeatureTreeWidget(QStringLiteral("chaos"), m_device->baseInfo()));
@@ -171,8 +186,8 @@ void TestChaos::build()
     m_reports.reset(new ModelTesterReports);
     m_viewLike.reset(new ViewLikeProxy);
     m_viewLike->setSourceModel(proxy());
-    m_tester.reset(
-        new QAbstractItemModelTester(m_viewLike.get(), QAbstractItemModelTester::FailureReportingMode::Warning));
+    m_signalChecks.reset(new ModelSignalChecks(m_viewLike.get()));
+    walkModel();
     m_widget->resize(600, 800);
     m_widget->show();
 }
@@ -269,9 +284,18 @@ QString TestChaos::step(int kind)
             QTest::keyClick(search, Qt::Key_Backspace);
             return QStringLiteral("clear search");
         }
-        const char* text = kSearchTexts[pick(int(sizeof kSearchTexts / sizeof *kSearchTexts))];
-        QTest::keyClicks(search, QLatin1String(text));
-        return QStringLiteral("search ") + QLatin1String(text);
+        const QString text = QLatin1String(kSearchTexts[pick(int(sizeof kSearchTexts / sizeof *kSearchTexts))]);
+        // Typed letter by letter, each letter is a search of its own over the
+        // whole tree; pasted, the text is one. Both are in the mix.
+        if (chance(25)) {
+            QTest::keyClicks(search, text);
+            return QStringLiteral("search ") + text;
+        }
+        QGuiApplication::clipboard()->setText(text);
+        QTest::keyClick(search, Qt::Key_V, Qt::ControlModifier);
+        if (search->text() != text)
+            return QStringLiteral("FAILURE: pasting \"%1\" into the search line gave \"%2\"").arg(text, search->text());
+        return QStringLiteral("paste search ") + text;
     }
     case 1: { // change the level
         const int level = pick(4);
@@ -587,18 +611,34 @@ QString TestChaos::checkFavourites()
         .arg(a.join(QLatin1Char(',')), b.join(QLatin1Char(',')));
 }
 
+void TestChaos::walkModel()
+{
+    // Built on the model at rest, the tester walks all of it once, checking
+    // every row's parent, siblings, flags and data, and goes again.
+    QAbstractItemModelTester walk(m_viewLike.get(), QAbstractItemModelTester::FailureReportingMode::Warning);
+    m_structuralSeen = m_signalChecks->structuralChanges();
+}
+
 QString TestChaos::checkInvariants(const QString& what)
 {
     if (what.startsWith(QLatin1String("FAILURE: ")))
         return what;
+    const QStringList signalFailures = m_signalChecks->takeFailures();
+    if (!signalFailures.isEmpty())
+        return QStringLiteral("model signals: ") + signalFailures.join(QLatin1Char('\n'));
+    // Only rows inserted, removed or moved can have broken what the signal
+    // checks don't see: then the whole model is walked.
+    if (m_signalChecks->structuralChanges() != m_structuralSeen)
+        timed(m_walkTime, [this] { walkModel(); });
     const QStringList reports = m_reports->unexcused([](const QString& report) {
         return report.contains(QLatin1String("FAIL! flags == Qt::ItemIsDropEnabled || flags == 0"));
     });
     if (!reports.isEmpty())
         return QStringLiteral("model tester: ") + reports.join(QLatin1Char('\n'));
-    QString failure = checkCounts();
+    QString failure;
+    timed(m_countsTime, [&] { failure = checkCounts(); });
     if (failure.isEmpty())
-        failure = checkEditors();
+        timed(m_editorsTime, [&] { failure = checkEditors(); });
     if (failure.isEmpty())
         failure = checkFavourites();
     return failure;
@@ -609,20 +649,37 @@ void TestChaos::soak()
     // Weights of the step kinds: gestures first, device events after.
     // Clearing and re-adding the collections is in the mix unless
     // ZVC_CHAOS_NO_CLEAR is set, to tell its failures from the others'.
+    // A search or a level change while a search shows the large node map
+    // opens thousands of editors and costs a hundred times another step:
+    // they come less often than the cheap gestures, so that a long soak
+    // still runs a hundred thousand steps in well under an hour.
     const int clearWeight = qEnvironmentVariableIsSet("ZVC_CHAOS_NO_CLEAR") ? 0 : 1;
-    const int weights[] = { 8, 4, 10, 8, 12, 10, 4, 3, 8, 5, 5, 3, 2, clearWeight, 1 };
+    const int weights[] = { 5, 2, 10, 8, 12, 10, 4, 3, 8, 5, 5, 3, 2, clearWeight, 1 };
+    constexpr int kinds = int(sizeof weights / sizeof *weights);
+    static const char* const kindNames[kinds] = { "search", "level", "expand", "keys", "edit", "favourite", "drag",
+        "copy/state", "device value", "device property", "fault", "worker", "unplug", "clear", "second widget" };
     int sum = 0;
     for (int weight : weights)
         sum += weight;
+    int stepsOfKind[kinds] = {};
+    qint64 timeOfKind[kinds] = {};
+    qint64 checkTime = 0;
+    QElapsedTimer wall;
+    wall.start();
+    const bool trace = qEnvironmentVariableIsSet("ZVC_CHAOS_TRACE");
     for (int i = 0; i < g_steps; ++i) {
         int roll = pick(sum);
         int kind = 0;
         while (roll >= weights[kind])
             roll -= weights[kind++];
-        if (qEnvironmentVariableIsSet("ZVC_CHAOS_TRACE"))
+        if (trace) {
             std::printf("%d: kind %d\n", i + 1, kind);
+            std::fflush(stdout);
+        }
         // Nothing a user or a camera does may let an exception out of the widget.
         QString what, failure;
+        QElapsedTimer timer;
+        timer.start();
         try {
             what = step(kind);
             deliver();
@@ -631,18 +688,30 @@ void TestChaos::soak()
         } catch (...) {
             failure = QStringLiteral("exception escaped from a step of kind %1").arg(kind);
         }
+        ++stepsOfKind[kind];
+        timeOfKind[kind] += timer.nsecsElapsed();
         if (failure.isEmpty())
-            failure = checkInvariants(what);
+            timed(checkTime, [&] { failure = checkInvariants(what); });
         if (!failure.isEmpty()) {
-            std::printf("tst_chaos: failed at step %d (%s); replay: tst_chaos --seed %llu --steps %d\n", i + 1,
-                qPrintable(what), static_cast<unsigned long long>(g_seed), i + 1);
+            std::printf("tst_chaos: failed at step %d (%s); replay: tst_chaos --seed %llu --steps %d --features %d\n",
+                i + 1, qPrintable(what), static_cast<unsigned long long>(g_seed), i + 1, g_features);
             std::fflush(stdout);
             QFAIL(qPrintable(failure));
         }
-        if (qEnvironmentVariableIsSet("ZVC_CHAOS_TRACE"))
-            std::printf("%d: %s\n", i + 1, qPrintable(what));
+        if (trace) {
+            std::printf("%d: %s (%.1f ms)\n", i + 1, qPrintable(what), double(timer.nsecsElapsed()) / 1e6);
+            std::fflush(stdout);
+        }
     }
-    std::printf("tst_chaos: %d steps passed, seed %llu\n", g_steps, static_cast<unsigned long long>(g_seed));
+    const double seconds = double(wall.nsecsElapsed()) / 1e9;
+    std::printf("tst_chaos: %d steps passed, seed %llu, %d synthetic features, %.1f s, %.1f steps/s\n", g_steps,
+        static_cast<unsigned long long>(g_seed), g_features, seconds, seconds > 0 ? g_steps / seconds : 0.0);
+    for (int kind = 0; kind < kinds; ++kind)
+        std::printf("tst_chaos:   %-16s %7d steps %9.1f s\n", kindNames[kind], stepsOfKind[kind],
+            double(timeOfKind[kind]) / 1e9);
+    std::printf("tst_chaos:   checks %.1f s (whole model walks %.1f s, match counts %.1f s, editors %.1f s)\n",
+        double(checkTime) / 1e9, double(m_walkTime) / 1e9, double(m_countsTime) / 1e9, double(m_editorsTime) / 1e9);
+    std::fflush(stdout);
 }
 
 int main(int argc, char** argv)
