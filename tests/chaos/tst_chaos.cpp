@@ -37,7 +37,9 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
+#include <QPointer>
 #include <QSet>
 #include <QWheelEvent>
 
@@ -94,6 +96,8 @@ private:
     QString checkInvariants(const QString& what);
     void walkModel();
     QString checkCounts();
+    QString triggerFavouriteAction(QAction* action);
+    void onContextMenu(QSharedPointer<QMenu> menu);
     void compareCounts(int total, int hidden);
     QString checkEditors();
     QString checkFavourites();
@@ -127,6 +131,10 @@ private:
     // the row changes; until then the row may go without.
     QSet<QPersistentModelIndex> m_mayLackEditor;
     QSet<QString> m_faulted; // full names that ever had a fault or a null snapshot
+    // The context menu: the last one handed to the listener, one it keeps, and what it did.
+    QPointer<QMenu> m_lastMenu;
+    QSharedPointer<QMenu> m_heldMenu;
+    QString m_menuWhat;
     QString m_countFailure; // the first announcement of counts that a walk of the model contradicts
 };
 
@@ -162,6 +170,7 @@ void TestChaos::initTestCase()
 
 void TestChaos::cleanupTestCase()
 {
+    m_heldMenu.reset();
     m_signalChecks.reset();
     m_viewLike.reset();
     m_reports.reset();
@@ -187,6 +196,9 @@ void TestChaos::build()
     m_reports.reset();
     m_widget.reset(new FeatureTreeWidget(QStringLiteral("chaos"), m_device->baseInfo()));
     addCollections(*m_widget);
+    m_heldMenu.reset();
+    connect(m_widget.get(), &FeatureTreeWidget::contextMenuRequested, this,
+        [this](const QPoint&, QSharedPointer<QMenu> menu) { onContextMenu(menu); });
     connect(m_widget.get(), &FeatureTreeWidget::filterMatchesChanged, this,
         [this](int total, int hidden) { compareCounts(total, hidden); });
     m_reports.reset(new ModelTesterReports);
@@ -380,36 +392,12 @@ QString TestChaos::step(int kind)
         const QModelIndex current = m_widget->GetCurrentIndex();
         if (!current.isValid() || !extension)
             return QStringLiteral("favourite: no current row");
-        const int favourite = extension->getFavoritesIndexFromModelIndex(current);
-        const int what = pick(4);
-        if (what == 0) {
-            const int before = FeatureTreeModel::m_favorites.countNodes();
-            m_widget->findChild<QAction*>(QStringLiteral("actionAddToFavourites"))->trigger();
-            const QList<Shadow> now = storeList();
-            // A camera with a fault injected may refuse the feature; otherwise it lands at the end.
-            if (now.size() == before + 1)
-                m_shadow << now.last();
-            else if (now.size() != before)
-                return QStringLiteral("FAILURE: add favourite changed the store by more than one");
-            return QStringLiteral("add favourite");
-        }
-        if (favourite < 0)
+        static const char* const actions[]
+            = { "actionAddToFavourites", "actionMoveFavouriteUp", "actionMoveFavouriteDown", "actionRemoveFavourite" };
+        const char* action = actions[pick(4)];
+        if (qstrcmp(action, "actionAddToFavourites") != 0 && extension->getFavoritesIndexFromModelIndex(current) < 0)
             return QStringLiteral("favourite: current row is no favourite");
-        if (what == 1 || what == 2) {
-            const bool up = what == 1;
-            const bool can = extension->CanMoveFavorite(current, up);
-            m_widget
-                ->findChild<QAction*>(
-                    up ? QStringLiteral("actionMoveFavouriteUp") : QStringLiteral("actionMoveFavouriteDown"))
-                ->trigger();
-            if (can)
-                m_shadow.move(favourite, up ? favourite - 1 : favourite + 1);
-            return QStringLiteral("move favourite %1 %2").arg(favourite).arg(up ? "up" : "down");
-        }
-        m_widget->findChild<QAction*>(QStringLiteral("actionRemoveFavourite"))->trigger();
-        if (favourite < m_shadow.size())
-            m_shadow.removeAt(favourite);
-        return QStringLiteral("remove favourite %1").arg(favourite);
+        return triggerFavouriteAction(m_widget->findChild<QAction*>(QLatin1String(action)));
     }
     case 6: { // drag a row onto the favourites
         const QModelIndex row = randomFeatureRow();
@@ -537,8 +525,109 @@ QString TestChaos::step(int kind)
         m_second->show();
         return QStringLiteral("second widget built");
     }
+    case 15: { // a context menu asked for on a row, by a right click or by the signal
+        QString what;
+        if (m_heldMenu && chance(50)) {
+            const QPointer<QMenu> held = m_heldMenu.data();
+            m_heldMenu.reset();
+            if (held)
+                return QStringLiteral("FAILURE: the menu outlived its last owner");
+            what = QStringLiteral("menu let go; ");
+        }
+        m_menuWhat = QStringLiteral("no menu");
+        bool hadCurrent = false;
+        const QModelIndex row = randomRow(true);
+        QRect rect;
+        if (row.isValid()) {
+            view->scrollTo(row);
+            rect = view->visualRect(row);
+        }
+        if (rect.isValid() && view->viewport()->rect().contains(rect.center()) && chance(60)) {
+            const QPoint point = rect.center();
+            QTest::mousePress(view->viewport(), Qt::RightButton, Qt::NoModifier, point);
+            hadCurrent = m_widget->GetCurrentIndex().isValid();
+            QContextMenuEvent event(QContextMenuEvent::Mouse, point, view->viewport()->mapToGlobal(point));
+            QCoreApplication::sendEvent(view->viewport(), &event);
+            QTest::mouseRelease(view->viewport(), Qt::RightButton, Qt::NoModifier, point);
+            what += QStringLiteral("right click: ");
+        } else {
+            if (row.isValid() && chance(50))
+                view->setCurrentIndex(row);
+            hadCurrent = m_widget->GetCurrentIndex().isValid();
+            emit m_widget->customContextMenuRequested(QPoint(pick(m_widget->width()), pick(m_widget->height())));
+            what += QStringLiteral("context menu request: ");
+        }
+        // The menu follows the current row: one with it, none without.
+        if (hadCurrent == (m_menuWhat == QLatin1String("no menu")))
+            return QStringLiteral("FAILURE: %1 with%2 a current row").arg(what + m_menuWhat, hadCurrent ? "" : "out");
+        return what + m_menuWhat;
+    }
     }
     return QString();
+}
+
+void TestChaos::onContextMenu(QSharedPointer<QMenu> menu)
+{
+    // A host's listener: it may add entries of its own, trigger one of the
+    // menu's actions, keep the menu a while, or just let it go.
+    m_lastMenu = menu.data();
+    if (!menu) {
+        m_menuWhat = QStringLiteral("FAILURE: a null menu");
+        return;
+    }
+    if (chance(20))
+        menu->addAction(QStringLiteral("Host entry"));
+    QList<QAction*> actions;
+    for (QAction* action : menu->actions()) {
+        if (!action->isSeparator() && action->isEnabled() && action->isVisible() && !action->objectName().isEmpty())
+            actions << action;
+    }
+    if (!actions.isEmpty() && chance(60))
+        m_menuWhat = QStringLiteral("menu: ") + triggerFavouriteAction(actions.at(pick(actions.size())));
+    else
+        m_menuWhat = QStringLiteral("menu of %1 entries left alone").arg(menu->actions().size());
+    if (chance(15)) {
+        m_heldMenu = menu;
+        m_menuWhat += QStringLiteral(", kept");
+    }
+}
+
+QString TestChaos::triggerFavouriteAction(QAction* action)
+{
+    // Triggers one of the widget's favourites actions on the current row and
+    // keeps the shadow in step with what it should have done.
+    IFeatureTreeModelExtension* extension = m_widget->getFeatureExtension();
+    const QModelIndex current = m_widget->GetCurrentIndex();
+    if (!action || !extension)
+        return QStringLiteral("favourite: no action");
+    const QString name = action->objectName();
+    const int favourite = current.isValid() ? extension->getFavoritesIndexFromModelIndex(current) : -1;
+    const int before = FeatureTreeModel::m_favorites.countNodes();
+    if (name == QLatin1String("actionAddToFavourites")) {
+        action->trigger();
+        const QList<Shadow> now = storeList();
+        // A camera with a fault injected may refuse the feature; otherwise it lands at the end.
+        if (now.size() == before + 1)
+            m_shadow << now.last();
+        else if (now.size() != before)
+            return QStringLiteral("FAILURE: add favourite changed the store by more than one");
+        return QStringLiteral("add favourite");
+    }
+    if (name == QLatin1String("actionMoveFavouriteUp") || name == QLatin1String("actionMoveFavouriteDown")) {
+        const bool up = name == QLatin1String("actionMoveFavouriteUp");
+        const bool can = current.isValid() && extension->CanMoveFavorite(current, up);
+        action->trigger();
+        if (can && favourite >= 0)
+            m_shadow.move(favourite, up ? favourite - 1 : favourite + 1);
+        return QStringLiteral("move favourite %1 %2").arg(favourite).arg(up ? "up" : "down");
+    }
+    if (name == QLatin1String("actionRemoveFavourite")) {
+        action->trigger();
+        if (favourite >= 0 && favourite < m_shadow.size())
+            m_shadow.removeAt(favourite);
+        return QStringLiteral("remove favourite %1").arg(favourite);
+    }
+    return QStringLiteral("FAILURE: unknown action ") + name;
 }
 
 QString TestChaos::checkCounts()
@@ -716,6 +805,11 @@ QString TestChaos::checkInvariants(const QString& what)
 {
     if (what.startsWith(QLatin1String("FAILURE: ")))
         return what;
+    // The widget and the listener have let go of every menu but the one kept.
+    if (m_lastMenu && m_lastMenu != m_heldMenu.data())
+        return QStringLiteral("a context menu lives on after its last owner let go");
+    if (what.contains(QLatin1String("FAILURE: ")))
+        return what;
     const QStringList signalFailures = m_signalChecks->takeFailures();
     if (!signalFailures.isEmpty())
         return QStringLiteral("model signals: ") + signalFailures.join(QLatin1Char('\n'));
@@ -746,10 +840,11 @@ void TestChaos::soak()
     // they come less often than the cheap gestures, so that a long soak
     // still runs a hundred thousand steps in well under an hour.
     const int clearWeight = qEnvironmentVariableIsSet("ZVC_CHAOS_NO_CLEAR") ? 0 : 1;
-    const int weights[] = { 5, 2, 10, 8, 12, 10, 4, 3, 8, 5, 5, 3, 2, clearWeight, 1 };
+    const int weights[] = { 5, 2, 10, 8, 12, 10, 4, 3, 8, 5, 5, 3, 2, clearWeight, 1, 5 };
     constexpr int kinds = int(sizeof weights / sizeof *weights);
-    static const char* const kindNames[kinds] = { "search", "level", "expand", "keys", "edit", "favourite", "drag",
-        "copy/state", "device value", "device property", "fault", "worker", "unplug", "clear", "second widget" };
+    static const char* const kindNames[kinds]
+        = { "search", "level", "expand", "keys", "edit", "favourite", "drag", "copy/state", "device value",
+              "device property", "fault", "worker", "unplug", "clear", "second widget", "context menu" };
     int sum = 0;
     for (int weight : weights)
         sum += weight;
@@ -789,6 +884,10 @@ void TestChaos::soak()
                 i + 1, qPrintable(what), static_cast<unsigned long long>(g_seed), i + 1, g_features);
             std::fflush(stdout);
             QFAIL(qPrintable(failure));
+        }
+        if ((i + 1) % 5000 == 0 && !trace) {
+            std::printf("tst_chaos: %d steps, %.0f s\n", i + 1, double(wall.nsecsElapsed()) / 1e9);
+            std::fflush(stdout);
         }
         if (trace) {
             std::printf("%d: %s (%.1f ms)\n", i + 1, qPrintable(what), double(timer.nsecsElapsed()) / 1e6);
