@@ -454,6 +454,8 @@ private slots:
     void otherOperationsReachTheModel();
     void clearReachesTheModel();
     void setVisibilityStoresTheLevelWithoutInvalidating();
+    void countsKeepTheMatchesOfPersistentRowsMappedAgainFirst();
+    void aNewLevelStartsNewCountsAtTheNextFilteredRow();
     void everyRowPassesWhileACollectionIsAdded();
     void collectionAddedDuringASearchShowsUnfilteredUntilInvalidate();
 
@@ -969,6 +971,54 @@ void TestFeatureTreeProxyModel::setVisibilityStoresTheLevelWithoutInvalidating()
     QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
 }
 
+void TestFeatureTreeProxyModel::countsKeepTheMatchesOfPersistentRowsMappedAgainFirst()
+{
+    SearchTree tree;
+    QVERIFY(tree.device);
+    tree.add(camera);
+    tree.add(grabber);
+    search(tree.proxy, QStringLiteral("Probe"));
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+
+    // A view holds persistent rows (editors, the current row) deep in the
+    // tree. invalidate() maps their parents again before the top level, and
+    // a parent mapped then is not filtered again by the walk.
+    const QPersistentModelIndex probe(shownIndex(tree.proxy, QStringLiteral("@CameraDevice/ProbeGuru")));
+    QVERIFY(probe.isValid());
+    tree.proxy.invalidate();
+    QVERIFY(probe.isValid());
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+
+    // So does a new text: the rows shown are filtered before those hidden.
+    tree.proxy.setFilterFixedString(QStringLiteral("Width"));
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
+    tree.proxy.invalidate();
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
+}
+
+void TestFeatureTreeProxyModel::aNewLevelStartsNewCountsAtTheNextFilteredRow()
+{
+    SearchTree tree;
+    QVERIFY(tree.device);
+    tree.add(camera);
+    search(tree.proxy, QStringLiteral("Probe"));
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+
+    // Filtered again at the same text without invalidate(): the counts of the
+    // old level go, and none is counted twice.
+    tree.proxy.setVisibility(GenApi::Beginner);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+    tree.proxy.setFilterFixedString(QStringLiteral("Probe"));
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 2);
+}
+
 void TestFeatureTreeProxyModel::everyRowPassesWhileACollectionIsAdded()
 {
     SearchTree tree;
@@ -985,6 +1035,8 @@ void TestFeatureTreeProxyModel::everyRowPassesWhileACollectionIsAdded()
     const int heightRow = tree.sourceIndex(QStringLiteral("@CameraDevice/Height")).row();
     const int expertRow = tree.sourceIndex(QStringLiteral("@CameraDevice/ProbeExpert")).row();
     QVERIFY(!tree.proxy.filterAcceptsRow(heightRow, imageFormat));
+    const int visibleBefore = tree.proxy.getVisibleMatchCount();
+    const int invisibleBefore = tree.proxy.getInvisibleMatchCount();
 
     // Inside the call, as the model announces the new node map.
     int calls = 0;
@@ -1004,8 +1056,8 @@ void TestFeatureTreeProxyModel::everyRowPassesWhileACollectionIsAdded()
     QVERIFY(heightPassed);
     QVERIFY(expertPassed);
     // Nothing was counted.
-    QCOMPARE(visibleDuring, 3);
-    QCOMPARE(invisibleDuring, 0);
+    QCOMPARE(visibleDuring, visibleBefore);
+    QCOMPARE(invisibleDuring, invisibleBefore);
     QCOMPARE(tree.model.nodemaps().count(), 2);
 
     // Afterwards the rule holds again, and counts.
@@ -1629,7 +1681,9 @@ void TestFeatureTreeProxyModel::eachPassStartsWithEmptyCounts()
     QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
     QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
 
-    // Filtering the first top-level row is what starts a pass; no other row does.
+    // A new text, a new level or the mappings dropped start a pass. Filtering
+    // a row again, the first top-level one too, neither counts it twice nor
+    // forgets what the pass has counted.
     QStandardItemModel source;
     QStandardItem* third = roleItem(QStringLiteral("C Match"), QStringLiteral("C"), GenApi::Beginner, true);
     third->appendRow(roleItem(QStringLiteral("D Match"), QStringLiteral("D"), GenApi::Beginner, true));
@@ -1643,13 +1697,17 @@ void TestFeatureTreeProxyModel::eachPassStartsWithEmptyCounts()
     walk(proxy);
     QCOMPARE(proxy.getVisibleMatchCount(), 4);
     QVERIFY(proxy.filterAcceptsRow(0, QModelIndex()));
-    QCOMPARE(proxy.getVisibleMatchCount(), 1);
-    QVERIFY(proxy.filterAcceptsRow(1, QModelIndex()));
     QVERIFY(proxy.filterAcceptsRow(0, source.index(2, 0)));
-    QCOMPARE(proxy.getVisibleMatchCount(), 3);
-    QVERIFY(proxy.filterAcceptsRow(2, QModelIndex()));
     QCOMPARE(proxy.getVisibleMatchCount(), 4);
-    QVERIFY(proxy.filterAcceptsRow(0, QModelIndex()));
+
+    proxy.setFilterFixedString(QStringLiteral("D match"));
+    QCOMPARE(proxy.getVisibleMatchCount(), 1);
+    QVERIFY(proxy.filterAcceptsRow(0, QModelIndex()) == false);
+    QCOMPARE(proxy.getVisibleMatchCount(), 1);
+
+    proxy.invalidate();
+    QCOMPARE(proxy.getVisibleMatchCount(), 0);
+    walk(proxy);
     QCOMPARE(proxy.getVisibleMatchCount(), 1);
 }
 

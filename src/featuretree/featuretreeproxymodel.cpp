@@ -14,6 +14,10 @@ using namespace ParameterCollection;
 FeatureTreeProxyModel::FeatureTreeProxyModel(QObject* parent)
     : QSortFilterProxyModel(parent)
 {
+    // The base class drops its mappings around these two signals, and every
+    // row is filtered again as its parent is mapped anew.
+    connect(this, SIGNAL(layoutAboutToBeChanged()), this, SLOT(startPass()));
+    connect(this, SIGNAL(modelAboutToBeReset()), this, SLOT(startPass()));
 }
 
 FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
@@ -124,27 +128,30 @@ int containsAsciiIgnoringCase(const QString& text, const FoldedPattern& pattern)
     return 0;
 }
 
+bool matches(const QRegExp& pattern, const QString& text)
+{
+    // A fixed string, as the widget sets it, needs no regular expression machinery.
+    if (pattern.patternSyntax() != QRegExp::FixedString)
+        return pattern.indexIn(text) != -1;
+    const QString fixed = pattern.pattern();
+    if (pattern.caseSensitivity() == Qt::CaseInsensitive) {
+        // Folded once per search text (the texts are compared by identity).
+        thread_local FoldedPattern folded;
+        if (!fixed.isSharedWith(folded.source) || folded.source.isNull())
+            folded.set(fixed);
+        const int found = containsAsciiIgnoringCase(text, folded);
+        if (found >= 0)
+            return found == 1;
+    }
+    return text.contains(fixed, pattern.caseSensitivity());
+}
+
 } // namespace
 
 bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
 {
-    if (!m_patternCached)
-        m_pattern = filterRegExp();
-    // A fixed string, as the widget sets it, needs no regular expression machinery.
-    if (m_pattern.patternSyntax() == QRegExp::FixedString) {
-        const QString pattern = m_pattern.pattern();
-        if (m_pattern.caseSensitivity() == Qt::CaseInsensitive) {
-            // Folded once per search text (the texts are compared by identity).
-            thread_local FoldedPattern folded;
-            if (!pattern.isSharedWith(folded.source) || folded.source.isNull())
-                folded.set(pattern);
-            const int found = containsAsciiIgnoringCase(text, folded);
-            if (found >= 0)
-                return found == 1;
-        }
-        return text.contains(pattern, m_pattern.caseSensitivity());
-    }
-    return m_pattern.indexIn(text) != -1;
+    // Outside filterAcceptsRow() the pattern of the pass is left alone.
+    return matches(m_patternCached ? m_pattern : filterRegExp(), text);
 }
 
 namespace {
@@ -347,23 +354,42 @@ bool FeatureTreeProxyModel::hasAcceptedChildren(int sourceRow, const QModelIndex
     return false;
 }
 
+void FeatureTreeProxyModel::startPass()
+{
+    // Adding a collection counts nothing and leaves the counts alone; the
+    // widget invalidates afterwards.
+    if (m_addingCollection)
+        return;
+    m_visibleMatches.startPass();
+    m_invisibleMatches.startPass();
+    m_patternKnown = false;
+}
+
 bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    // Filtering always begins at the first top-level row: a new pass, new counts.
-    if (sourceRow == 0 && !sourceParent.isValid()) {
-        m_visibleMatches.startPass();
-        m_invisibleMatches.startPass();
-    }
     if (m_addingCollection)
         return true;
     // The row, its ancestors and its children are each matched against the
     // filter, and the filter's pattern is only to be had as a copy, which
-    // costs about as much as filtering the row. A new filter text or a new
-    // source makes QSortFilterProxyModel filter the top level before any
-    // level below it, so the copy is taken on the top-level rows only (a
-    // handful per pass) and kept for the rows below them.
+    // costs about as much as filtering the row. A new filter text makes
+    // QSortFilterProxyModel filter the top level before any level below it,
+    // so the copy is taken on the top-level rows only (a handful per pass)
+    // and kept for the rows below them.
+    //
+    // A pass, and the counts with it, starts with a new text or level or when
+    // the mappings go (startPass()). Not with the first top-level row: a new text
+    // filters the shown rows before the hidden ones, and the mappings are
+    // built again first for the parents of the view's persistent rows, deep
+    // ones before the top level, so matches counted before that row would be
+    // lost and, their parents being mapped already, not come back.
     if (!sourceParent.isValid() || !m_patternKnown) {
-        m_pattern = filterRegExp();
+        const QRegExp pattern = filterRegExp();
+        if (pattern != m_pattern || m_visibility != m_passVisibility) {
+            m_visibleMatches.startPass();
+            m_invisibleMatches.startPass();
+            m_pattern = pattern;
+            m_passVisibility = m_visibility;
+        }
         m_patternKnown = true;
         const QAbstractItemModel* source = sourceModel();
         m_sourceIsFeatureTreeModel = source && source->metaObject() == &FeatureTreeModel::staticMetaObject;
@@ -540,6 +566,8 @@ void FeatureTreeProxyModel::addChildren(FeatureTreeINodeItem* nodeItem)
 void FeatureTreeProxyModel::setVisibility(GenApi::EVisibility visibility)
 {
     m_visibility = visibility;
+    // The counts of the old level stay until the next row is filtered.
+    m_patternKnown = false;
     if (FeatureTreeModel* model = getFeatureTreeModel())
         model->setVisibility(visibility);
 }

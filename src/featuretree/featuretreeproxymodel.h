@@ -23,8 +23,9 @@ class FeatureTreeModel;
  * counts once however many rows show it (tree and favourites, or two node
  * maps): the counts are keyed by the feature's name.
  *
- * The counts are a side effect of filtering and are complete once a whole
- * filtering pass over the tree has run.
+ * The counts are a side effect of filtering: they cover the rows filtered
+ * since the search text or the level changed or the mappings were last
+ * dropped (invalidate(), a layout change, a reset).
  */
 class ZVC_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel, public IFeatureTreeModelExtension
 {
@@ -105,6 +106,10 @@ protected:
     //! A child of the row, or a descendant, passes filterAcceptsRowItself.
     bool hasAcceptedChildren(int sourceRow, const QModelIndex& sourceParent, int depth) const;
 
+private slots:
+    //! New counts: the base class is about to drop its mappings and filter every row again.
+    void startPass();
+
 private:
     //! Lets the model fill the source level below parent, outside any mapping of the base class.
     void fillSourceLevel(const QModelIndex& parent) const;
@@ -167,6 +172,8 @@ private:
     // filterAcceptsRow() runs (m_patternCached).
     mutable QRegExp m_pattern;
     mutable bool m_patternKnown = false;
+    // The level of the present pass.
+    mutable GenApi::EVisibility m_passVisibility = GenApi::Guru;
     mutable bool m_patternCached = false;
     // The source is a FeatureTreeModel itself, not a class derived from it.
     mutable bool m_sourceIsFeatureTreeModel = false;
