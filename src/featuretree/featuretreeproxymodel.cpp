@@ -150,8 +150,12 @@ bool matches(const QRegExp& pattern, const QString& text)
 
 bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
 {
-    // Outside filterAcceptsRow() the pattern of the pass is left alone.
-    return matches(m_patternCached ? m_pattern : filterRegExp(), text);
+    // Outside filterAcceptsRow() the pattern of the pass is left alone. (Two
+    // calls, not one with a conditional: that would copy the pass's pattern
+    // into a temporary, a QRegExp allocation for every row.)
+    if (m_patternCached)
+        return matches(m_pattern, text);
+    return matches(filterRegExp(), text);
 }
 
 namespace {
