@@ -51,9 +51,13 @@ void fillStandardModel(QStandardItem* parent, ParameterCollection::IParameterCol
         if (keep)
             keep->append(parameter);
         const QSharedPointer<const ParameterData> data = parameter->getParameterData();
-        const QString displayName
-            = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
-        auto* nameItem = new QStandardItem(displayName);
+        const QSharedPointer<IAdvancedParameterAccess> access = parameter->advancedAccess();
+        const QString displayName = access->getProperty(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+        // The same name column as the feature tree shows: a feature with a unit
+        // is titled "<display name> [<unit>]".
+        const QString unit = access->getProperty(QStringLiteral("Unit"), QString());
+        auto* nameItem
+            = new QStandardItem(unit.isEmpty() ? displayName : QStringLiteral("%1 [%2]").arg(displayName, unit));
         auto* valueItem = new QStandardItem(data ? data->valueText : QString());
         parent->appendRow({ nameItem, valueItem });
         if (parameter->getType() == TypeCategory)

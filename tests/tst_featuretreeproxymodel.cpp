@@ -83,6 +83,22 @@ const QByteArray searchCamera = deviceJson(R"(
     ] }
 )");
 
+// Display names and a unit with letters outside ASCII whose case folding
+// meets ASCII letters or other letters: a Kelvin sign (folds to "k"), a long
+// s (to "s"), a micro sign (to the Greek mu, as does the capital mu), an
+// accented capital and a sharp s (which simple folding leaves alone).
+const QByteArray foldingCamera = cameraJson(R"(
+    { "name": "Root", "type": "Category", "children": ["Units", "Words"] },
+    { "name": "Units", "type": "Category", "displayName": "Units", "children": ["Thermo", "Micro"] },
+    { "name": "Thermo", "type": "Integer", "displayName": "Degrees \u212A", "value": 1, "min": 0, "max": 9 },
+    { "name": "Micro", "type": "Float", "displayName": "Size", "unit": "\u00B5m", "value": 1, "min": 0, "max": 9 },
+    { "name": "Words", "type": "Category", "displayName": "Words", "children": ["LongS", "Accent", "Sharp", "PlainGain"] },
+    { "name": "LongS", "type": "Boolean", "displayName": "Ca\u017Fe", "value": true },
+    { "name": "Accent", "type": "Boolean", "displayName": "\u00C9clair", "value": true },
+    { "name": "Sharp", "type": "Boolean", "displayName": "Stra\u00DFe", "value": true },
+    { "name": "PlainGain", "type": "Float", "displayName": "Plain Gain", "value": 1, "min": 0, "max": 4 }
+)");
+
 FavoritesData& store()
 {
     return FeatureTreeModel::m_favorites;
@@ -438,12 +454,16 @@ private slots:
     void otherOperationsReachTheModel();
     void clearReachesTheModel();
     void setVisibilityStoresTheLevelWithoutInvalidating();
+    void countsKeepTheMatchesOfPersistentRowsMappedAgainFirst();
+    void aNewLevelStartsNewCountsAtTheNextFilteredRow();
     void everyRowPassesWhileACollectionIsAdded();
     void collectionAddedDuringASearchShowsUnfilteredUntilInvalidate();
 
     // The rule, one edge at a time.
     void searchFindsDisplayOrFeatureNameInAnyCase_data();
     void searchFindsDisplayOrFeatureNameInAnyCase();
+    void searchFoldsCaseAsQStringDoes_data();
+    void searchFoldsCaseAsQStringDoes();
     void starAndQuestionMarkAreOrdinaryCharacters_data();
     void starAndQuestionMarkAreOrdinaryCharacters();
     void featureInTreeAndFavoritesCountsOnce();
@@ -951,6 +971,54 @@ void TestFeatureTreeProxyModel::setVisibilityStoresTheLevelWithoutInvalidating()
     QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
 }
 
+void TestFeatureTreeProxyModel::countsKeepTheMatchesOfPersistentRowsMappedAgainFirst()
+{
+    SearchTree tree;
+    QVERIFY(tree.device);
+    tree.add(camera);
+    tree.add(grabber);
+    search(tree.proxy, QStringLiteral("Probe"));
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+
+    // A view holds persistent rows (editors, the current row) deep in the
+    // tree. invalidate() maps their parents again before the top level, and
+    // a parent mapped then is not filtered again by the walk.
+    const QPersistentModelIndex probe(shownIndex(tree.proxy, QStringLiteral("@CameraDevice/ProbeGuru")));
+    QVERIFY(probe.isValid());
+    tree.proxy.invalidate();
+    QVERIFY(probe.isValid());
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+
+    // So does a new text: the rows shown are filtered before those hidden.
+    tree.proxy.setFilterFixedString(QStringLiteral("Width"));
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
+    tree.proxy.invalidate();
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
+}
+
+void TestFeatureTreeProxyModel::aNewLevelStartsNewCountsAtTheNextFilteredRow()
+{
+    SearchTree tree;
+    QVERIFY(tree.device);
+    tree.add(camera);
+    search(tree.proxy, QStringLiteral("Probe"));
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+
+    // Filtered again at the same text without invalidate(): the counts of the
+    // old level go, and none is counted twice.
+    tree.proxy.setVisibility(GenApi::Beginner);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 3);
+    tree.proxy.setFilterFixedString(QStringLiteral("Probe"));
+    walk(tree.proxy);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 2);
+}
+
 void TestFeatureTreeProxyModel::everyRowPassesWhileACollectionIsAdded()
 {
     SearchTree tree;
@@ -967,6 +1035,8 @@ void TestFeatureTreeProxyModel::everyRowPassesWhileACollectionIsAdded()
     const int heightRow = tree.sourceIndex(QStringLiteral("@CameraDevice/Height")).row();
     const int expertRow = tree.sourceIndex(QStringLiteral("@CameraDevice/ProbeExpert")).row();
     QVERIFY(!tree.proxy.filterAcceptsRow(heightRow, imageFormat));
+    const int visibleBefore = tree.proxy.getVisibleMatchCount();
+    const int invisibleBefore = tree.proxy.getInvisibleMatchCount();
 
     // Inside the call, as the model announces the new node map.
     int calls = 0;
@@ -986,8 +1056,8 @@ void TestFeatureTreeProxyModel::everyRowPassesWhileACollectionIsAdded()
     QVERIFY(heightPassed);
     QVERIFY(expertPassed);
     // Nothing was counted.
-    QCOMPARE(visibleDuring, 3);
-    QCOMPARE(invisibleDuring, 0);
+    QCOMPARE(visibleDuring, visibleBefore);
+    QCOMPARE(invisibleDuring, invisibleBefore);
     QCOMPARE(tree.model.nodemaps().count(), 2);
 
     // Afterwards the rule holds again, and counts.
@@ -1059,6 +1129,42 @@ void TestFeatureTreeProxyModel::searchFindsDisplayOrFeatureNameInAnyCase()
     else
         QCOMPARE(tree.proxy.getVisibleMatchCount(), 0);
     QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+}
+
+void TestFeatureTreeProxyModel::searchFoldsCaseAsQStringDoes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("hits");
+    QTest::newRow("ASCII, other case") << "PLAIN gAIN" << 1;
+    QTest::newRow("ASCII across a space") << "n g" << 1;
+    QTest::newRow("ASCII text, Kelvin sign in the display name") << "k" << 1;
+    QTest::newRow("ASCII text, long s in the display name") << "CASE" << 1;
+    QTest::newRow("long s as the text") << QString(QChar(0x017F)) << 4;
+    QTest::newRow("capital mu as the text, micro sign in the unit") << QString(QChar(0x039C)) << 1;
+    QTest::newRow("accented capital against its small letter") << QString(QChar(0x00C9)) + QStringLiteral("CLAIR") << 1;
+    QTest::newRow("sharp s is not two letters") << "STRASSE" << 0;
+    QTest::newRow("sharp s itself") << QStringLiteral("stra") + QChar(0x00DF) << 1;
+    QTest::newRow("no match") << "zq" << 0;
+}
+
+void TestFeatureTreeProxyModel::searchFoldsCaseAsQStringDoes()
+{
+    // The proxy finds a feature exactly where QString::contains, ignoring
+    // case, finds the text in its display text or its name (the independent
+    // rules above use it), whatever the letters.
+    QFETCH(QString, text);
+    QFETCH(int, hits);
+    SearchTree tree(foldingCamera);
+    QVERIFY(tree.device);
+    tree.add(camera);
+    QVERIFY(fillCompletely(tree.model) >= 9);
+    const QStringList shown = search(tree.proxy, text);
+    const Expected expected = expectedFor(tree.model, text, GenApi::Guru);
+    QCOMPARE(shown, expected.shown);
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), expected.visible.count());
+    QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
+    // The texts chosen really find what they are meant to.
+    QCOMPARE(tree.proxy.getVisibleMatchCount(), hits);
 }
 
 void TestFeatureTreeProxyModel::starAndQuestionMarkAreOrdinaryCharacters_data()
@@ -1575,7 +1681,9 @@ void TestFeatureTreeProxyModel::eachPassStartsWithEmptyCounts()
     QCOMPARE(tree.proxy.getVisibleMatchCount(), 1);
     QCOMPARE(tree.proxy.getInvisibleMatchCount(), 0);
 
-    // Filtering the first top-level row is what starts a pass; no other row does.
+    // A new text, a new level or the mappings dropped start a pass. Filtering
+    // a row again, the first top-level one too, neither counts it twice nor
+    // forgets what the pass has counted.
     QStandardItemModel source;
     QStandardItem* third = roleItem(QStringLiteral("C Match"), QStringLiteral("C"), GenApi::Beginner, true);
     third->appendRow(roleItem(QStringLiteral("D Match"), QStringLiteral("D"), GenApi::Beginner, true));
@@ -1589,13 +1697,17 @@ void TestFeatureTreeProxyModel::eachPassStartsWithEmptyCounts()
     walk(proxy);
     QCOMPARE(proxy.getVisibleMatchCount(), 4);
     QVERIFY(proxy.filterAcceptsRow(0, QModelIndex()));
-    QCOMPARE(proxy.getVisibleMatchCount(), 1);
-    QVERIFY(proxy.filterAcceptsRow(1, QModelIndex()));
     QVERIFY(proxy.filterAcceptsRow(0, source.index(2, 0)));
-    QCOMPARE(proxy.getVisibleMatchCount(), 3);
-    QVERIFY(proxy.filterAcceptsRow(2, QModelIndex()));
     QCOMPARE(proxy.getVisibleMatchCount(), 4);
-    QVERIFY(proxy.filterAcceptsRow(0, QModelIndex()));
+
+    proxy.setFilterFixedString(QStringLiteral("D match"));
+    QCOMPARE(proxy.getVisibleMatchCount(), 1);
+    QVERIFY(proxy.filterAcceptsRow(0, QModelIndex()) == false);
+    QCOMPARE(proxy.getVisibleMatchCount(), 1);
+
+    proxy.invalidate();
+    QCOMPARE(proxy.getVisibleMatchCount(), 0);
+    walk(proxy);
     QCOMPARE(proxy.getVisibleMatchCount(), 1);
 }
 

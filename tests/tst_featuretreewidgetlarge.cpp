@@ -110,6 +110,7 @@ private slots:
     void budgetDecidesWhetherEditorsAreClosed_data();
     void budgetDecidesWhetherEditorsAreClosed();
     void bulkChangesNestAndOpenEditorsAtTheOuterEnd();
+    void editorsClosedInABulkChangeComeBackWhenTheirBranchIsShownAgain();
     void unmatchedEndOfBulkChangeIsRefused();
 
 private:
@@ -356,6 +357,40 @@ void TestFeatureTreeWidgetLarge::bulkChangesNestAndOpenEditorsAtTheOuterEnd()
     QVERIFY(tree->indexWidget(firstValue));
     const EditorCensus result = census(*tree);
     QCOMPARE(result.missing, QStringList());
+}
+
+void TestFeatureTreeWidgetLarge::editorsClosedInABulkChangeComeBackWhenTheirBranchIsShownAgain()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    tree->setBulkEditorBudget(0);
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "onVisibilityChanged", Q_ARG(int, 0)));
+    QCoreApplication::processEvents();
+    QModelIndex firstValue;
+    const QModelIndex category = firstCategoryWithEditor(*tree, &firstValue);
+    QVERIFY(category.isValid());
+    QVERIFY(category.parent().isValid());
+    const QString fullName = firstValue.sibling(firstValue.row(), 0).data(FeatureTreeItem::FullNameRole).toString();
+
+    // The category stays expanded below its collapsed parent. A level change
+    // closes every editor and opens those of the rows on screen again: the
+    // category's rows are not among them.
+    tree->collapse(category.parent());
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "onVisibilityChanged", Q_ARG(int, 1)));
+    QCoreApplication::processEvents();
+    const QModelIndex value = viewIndex(*tree, fullName, 1);
+    QVERIFY(value.isValid());
+    QVERIFY(!tree->isExpanded(value.parent().parent()));
+    QVERIFY(tree->isExpanded(value.parent()));
+
+    // Expanding the parent shows them again, each with its editor.
+    tree->expand(value.parent().parent());
+    QCoreApplication::processEvents();
+    QVERIFY(tree->indexWidget(viewIndex(*tree, fullName, 1)));
+    const EditorCensus result = census(*tree);
+    QCOMPARE(result.missing, QStringList());
+    QCOMPARE(result.extra, QStringList());
 }
 
 void TestFeatureTreeWidgetLarge::unmatchedEndOfBulkChangeIsRefused()

@@ -12,7 +12,6 @@
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QPointer>
 #include <QUuid>
 #include <QVarLengthArray>
 #include <QVector>
@@ -36,35 +35,46 @@ namespace {
 struct Subscription
 {
     FeatureTreeINodeItem* first = nullptr;
-    QVector<FeatureTreeINodeItem*> more; // a favourite twin, rarely more
+    // Numbers the connection made for this entry (see subscribe()).
+    quint32 serial = 0;
+    // Other items subscribed as well (a favourite twin, a second model): kept
+    // in Subscriptions::more, which is empty for nearly every parameter.
+    bool hasMore = false;
 };
 
 struct Subscriptions
 {
     QObject context;
     QHash<const IParameter*, Subscription> byParameter;
+    QHash<const IParameter*, QVector<FeatureTreeINodeItem*>> more;
+    quint32 lastSerial = 0;
 
-    void deliver(const IParameter* parameter, const QSharedPointer<const ParameterData>& data)
+    void deliver(const IParameter* parameter, quint32 serial, const QSharedPointer<const ParameterData>& data)
     {
         const auto found = byParameter.constFind(parameter);
-        if (found == byParameter.constEnd())
+        if (found == byParameter.constEnd() || found->serial != serial)
             return;
         // A copy: an item's update may reach code that subscribes or unsubscribes.
         QVarLengthArray<FeatureTreeINodeItem*, 4> items;
         items.append(found->first);
-        for (FeatureTreeINodeItem* item : found->more)
-            items.append(item);
+        if (found->hasMore) {
+            for (FeatureTreeINodeItem* item : more.value(parameter))
+                items.append(item);
+        }
         for (FeatureTreeINodeItem* item : items) {
-            if (isSubscribed(parameter, item))
+            if (isSubscribed(parameter, serial, item))
                 item->onParameterDataChanged(data);
         }
     }
 
-    bool isSubscribed(const IParameter* parameter, const FeatureTreeINodeItem* item) const
+    bool isSubscribed(const IParameter* parameter, quint32 serial, const FeatureTreeINodeItem* item) const
     {
         const auto found = byParameter.constFind(parameter);
-        return found != byParameter.constEnd()
-            && (found->first == item || found->more.contains(const_cast<FeatureTreeINodeItem*>(item)));
+        if (found == byParameter.constEnd() || found->serial != serial)
+            return false;
+        if (found->first == item)
+            return true;
+        return found->hasMore && more.value(parameter).contains(const_cast<FeatureTreeINodeItem*>(item));
     }
 };
 
@@ -85,6 +95,36 @@ QString translationContextOf(const QString& fullName)
     return lastContext;
 }
 
+QString representationOf(const IAdvancedParameterAccess* access)
+{
+    return access ? access->getProperty(QStringLiteral("Representation")) : QString();
+}
+
+// The editor type rule for a live node; representation() gives its
+// "Representation", asked only of numbers.
+template <typename Representation> int editorTypeOfKind(const IParameter& node, Representation representation)
+{
+    const auto isSliderRepresentation
+        = [](const QString& text) { return text == QLatin1String("Linear") || text == QLatin1String("Logarithmic"); };
+    switch (node.getType()) {
+    case TypeInteger:
+        return isSliderRepresentation(representation()) ? FeatureTreeItem::EditorIntSlider : FeatureTreeItem::EditorInt;
+    case TypeFloat:
+        return isSliderRepresentation(representation()) ? FeatureTreeItem::EditorFloatSlider
+                                                        : FeatureTreeItem::EditorFloat;
+    case TypeEnumeration:
+        return FeatureTreeItem::EditorEnum;
+    case TypeBoolean:
+        return FeatureTreeItem::EditorBool;
+    case TypeString:
+        return FeatureTreeItem::EditorString;
+    case TypeCommand:
+        return FeatureTreeItem::EditorCommand;
+    default:
+        return FeatureTreeItem::EditorNone;
+    }
+}
+
 Subscriptions& subscriptions()
 {
     // Made on the thread of the first item, which is the thread of the widgets,
@@ -99,10 +139,9 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     QSharedPointer<IParameter> node, const QString& displayedName, IFeatureTreeModelExtension* extension,
     const QString& fullName, FeatureTreeItem* parent, bool textAsUtf8)
     : FeatureTreeItem(displayedName, extension, fullName, parent)
-    , m_collection(std::move(collection))
-    , m_node(std::move(node))
     , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(translationContextOf(fullName))
+    , m_node(std::move(node))
+    , m_collection(std::move(collection))
 {
     initInternal();
 }
@@ -111,10 +150,9 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     QSharedPointer<IParameter> node, IFeatureTreeModelExtension* extension, const QString& fullName,
     FeatureTreeItem* parent, bool textAsUtf8)
     : FeatureTreeItem(QString(), extension, fullName, parent)
-    , m_collection(std::move(collection))
-    , m_node(std::move(node))
     , m_textAsUtf8(textAsUtf8)
-    , m_translationContext(translationContextOf(fullName))
+    , m_node(std::move(node))
+    , m_collection(std::move(collection))
 {
     QString displayName;
     initInternal(&displayName);
@@ -130,6 +168,8 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
 
 FeatureTreeINodeItem::~FeatureTreeINodeItem()
 {
+    if (m_notifiesModel && !m_childrenFetched && m_node)
+        --static_cast<FeatureTreeModel*>(m_extension)->m_unfetchedCategories;
     unsubscribe();
     clearChildren();
 }
@@ -141,15 +181,19 @@ void FeatureTreeINodeItem::subscribe()
     Subscription& subscription = all.byParameter[parameter];
     if (!subscription.first) {
         subscription.first = this;
-        // The guard drops a change still queued for a parameter that has gone since: a new
-        // parameter may by then live at the same address and must not receive it.
+        // Each connection gets a number of its own, which its deliveries carry.
+        // A change still queued for a parameter that has gone since is dropped
+        // by it: a new parameter may by then live at the same address, and its
+        // entry has a newer number. (A QPointer to the parameter did the same
+        // at the cost of a shared reference count block per parameter.)
+        subscription.serial = ++all.lastSerial;
+        const quint32 serial = subscription.serial;
         connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
-            [parameter, guard = QPointer<IParameter>(parameter)](QSharedPointer<const ParameterData> data) {
-                if (guard)
-                    subscriptions().deliver(parameter, data);
-            });
+            [parameter, serial](
+                QSharedPointer<const ParameterData> data) { subscriptions().deliver(parameter, serial, data); });
     } else {
-        subscription.more.append(this);
+        subscription.hasMore = true;
+        all.more[parameter].append(this);
     }
     m_subscribed = true;
 }
@@ -160,19 +204,32 @@ void FeatureTreeINodeItem::unsubscribe()
         return;
     m_subscribed = false;
     Subscriptions& all = subscriptions();
-    const auto found = all.byParameter.find(m_node.data());
+    const IParameter* parameter = m_node.data();
+    const auto found = all.byParameter.find(parameter);
     if (found == all.byParameter.end())
         return;
-    if (found->first == this) {
-        if (found->more.isEmpty()) {
-            // The parameter's only connection to the context.
-            QObject::disconnect(m_node.data(), &IParameter::parameterDataChangedDecoupled, &all.context, nullptr);
-            all.byParameter.erase(found);
-            return;
+    if (found->first != this) {
+        const auto others = all.more.find(parameter);
+        if (others != all.more.end()) {
+            others->removeOne(this);
+            if (others->isEmpty()) {
+                all.more.erase(others);
+                found->hasMore = false;
+            }
         }
-        found->first = found->more.takeFirst();
-    } else {
-        found->more.removeOne(this);
+        return;
+    }
+    const auto others = found->hasMore ? all.more.find(parameter) : all.more.end();
+    if (others == all.more.end()) {
+        // The parameter's only connection to the context.
+        QObject::disconnect(m_node.data(), &IParameter::parameterDataChangedDecoupled, &all.context, nullptr);
+        all.byParameter.erase(found);
+        return;
+    }
+    found->first = others->takeFirst();
+    if (others->isEmpty()) {
+        all.more.erase(others);
+        found->hasMore = false;
     }
 }
 
@@ -188,8 +245,14 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
         return;
     }
 
+    // Kept for the editor type's "Representation" below: asking the node for
+    // its advanced access again made a second access object per number feature.
+    QSharedPointer<IAdvancedParameterAccess> access;
+    bool accessKnown = false;
     try {
-        if (const QSharedPointer<IAdvancedParameterAccess> access = m_node->advancedAccess()) {
+        access = m_node->advancedAccess();
+        accessKnown = true;
+        if (access) {
             m_unit = access->getProperty(QStringLiteral("Unit"), QString());
             m_descriptionText = access->getProperty(QStringLiteral("Description"), QString());
             m_toolTipText = access->getProperty(QStringLiteral("Tooltip"), QString());
@@ -208,7 +271,12 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
         QSharedPointer<const ParameterData> data = m_node->getParameterData();
         m_parameterData = data ? data : ParameterData::createPlaceholder();
         m_childrenFetched = (m_parameterData->type != TypeCategory);
-        m_editorType = editorType(m_node);
+        if (!accessKnown)
+            m_editorType = editorType(m_node);
+        else if (m_node->isZombie())
+            m_editorType = EditorInvalid;
+        else
+            m_editorType = editorTypeOfKind(*m_node, [&access] { return representationOf(access.data()); });
     } catch (...) {
         ExceptionLogging::logCurrentException(
             "initInternal", QStringLiteral("Exception fired when caching parameter data"));
@@ -228,6 +296,8 @@ int FeatureTreeINodeItem::childCount()
         // Set first: the model's own row calls during the fill must not fill again,
         // and a fill that failed is not tried again.
         m_childrenFetched = true;
+        if (m_notifiesModel)
+            --static_cast<FeatureTreeModel*>(m_extension)->m_unfetchedCategories;
         if (IFeatureTreeModelExtension* extension = getExtension())
             extension->addChildren(this);
     }
@@ -300,14 +370,12 @@ const QString& FeatureTreeINodeItem::displayText() const
     if (m_unit.isEmpty())
         return m_displayedName;
     // Painting and every search pass ask for this text: build it once
-    // per displayed name instead of on every request.
-    // The title was built from the present displayed name when it is that name
-    // followed by " [<unit>]"; the unit never changes.
-    const bool current = !m_titleWithUnit.isNull()
-        && m_titleWithUnit.size() == m_displayedName.size() + m_unit.size() + 3
-        && m_titleWithUnit.startsWith(m_displayedName);
-    if (!current) {
+    // per displayed name instead of on every request. The base class tells
+    // when the displayed name was set, so that the check reads no text; the
+    // unit never changes.
+    if (m_displayedNameChanged || m_titleWithUnit.isNull()) {
         m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+        m_displayedNameChanged = false;
     }
     return m_titleWithUnit;
 }
@@ -330,7 +398,7 @@ QVariant FeatureTreeINodeItem::toolTip() const
 {
     try {
         const QByteArray key = QStringLiteral("%1_Tooltip").arg(m_name).toLatin1();
-        const QByteArray context = m_translationContext.toLatin1();
+        const QByteArray context = translationContext().toLatin1();
         const QString translated = QCoreApplication::translate(context.constData(), key.constData());
         const QString text = (translated.toLatin1() == key) ? m_toolTipText : translated;
 
@@ -467,28 +535,7 @@ int FeatureTreeINodeItem::editorType(QSharedPointer<IParameter> node)
 {
     if (!node || node->isZombie())
         return EditorInvalid;
-    const auto representation = [&node]() {
-        const QSharedPointer<IAdvancedParameterAccess> access = node->advancedAccess();
-        return access ? access->getProperty(QStringLiteral("Representation")) : QString();
-    };
-    const auto isSliderRepresentation
-        = [](const QString& text) { return text == QLatin1String("Linear") || text == QLatin1String("Logarithmic"); };
-    switch (node->getType()) {
-    case TypeInteger:
-        return isSliderRepresentation(representation()) ? EditorIntSlider : EditorInt;
-    case TypeFloat:
-        return isSliderRepresentation(representation()) ? EditorFloatSlider : EditorFloat;
-    case TypeEnumeration:
-        return EditorEnum;
-    case TypeBoolean:
-        return EditorBool;
-    case TypeString:
-        return EditorString;
-    case TypeCommand:
-        return EditorCommand;
-    default:
-        return EditorNone;
-    }
+    return editorTypeOfKind(*node, [&node] { return representationOf(node->advancedAccess().data()); });
 }
 
 int FeatureTreeINodeItem::editorType(const FeatureTreeINodeItem* item)
@@ -509,6 +556,13 @@ QSharedPointer<const ParameterData> FeatureTreeINodeItem::getParameterData() con
 QSharedPointer<IParameterCollection> FeatureTreeINodeItem::collection() const
 {
     return m_collection;
+}
+
+QString FeatureTreeINodeItem::translationContext() const
+{
+    // The full name never changes, so neither does its node map's context:
+    // derived when asked (for tool tips) instead of held by every item.
+    return translationContextOf(m_fullName);
 }
 
 void FeatureTreeINodeItem::setHighlighter(FeatureTreeHighlighter* highlighter)
@@ -564,7 +618,7 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
     const int itemRow = row();
     // The model that built the item learns first, as a connection made when the
     // item was built would, and not while the item's signals are blocked.
-    if (m_model && !signalsBlocked())
-        m_model->onNodeUpdated(itemRow, this);
+    if (m_notifiesModel && !signalsBlocked())
+        static_cast<FeatureTreeModel*>(m_extension)->onNodeUpdated(itemRow, this);
     emit nodeUpdated(itemRow, this);
 }

@@ -61,7 +61,7 @@ public:
 
     void setHighlighter(FeatureTreeHighlighter* highlighter);
     FeatureTreeHighlighter* highlighter() const { return m_highlighter; }
-    QString translationContext() const { return m_translationContext; }
+    QString translationContext() const;
 
 signals:
     void nodeUpdated(int row, FeatureTreeINodeItem* item);
@@ -82,20 +82,27 @@ private:
     //! Qt::DisplayRole of the name column, without a QVariant around it.
     const QString& displayText() const;
 
-    QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
-    QSharedPointer<ParameterCollection::IParameter> m_node;
-    QSharedPointer<const ParameterCollection::ParameterData> m_parameterData;
+    // A tree of the largest cameras holds 100 000 of these, so the layout is
+    // kept tight: the flags come first, where they fill the tail of the base
+    // class instead of padding of their own, and what every item of a node
+    // map would hold alike is not stored (the translation context is derived
+    // from the full name, the model is the extension). What painting and
+    // every search pass read of each row follows, together, so that a read
+    // touches as few cache lines of a large tree as it can.
     bool m_textAsUtf8;
-    QString m_translationContext;
-    FeatureTreeHighlighter* m_highlighter = nullptr; // not owned
+    bool m_subscribed = false;
+    // Built and connected by a FeatureTreeModel, which is then the extension
+    // and is told of updates directly (see FeatureTreeModel::connectItem); it
+    // owns the item, so outlives it.
+    bool m_notifiesModel = false;
+    QSharedPointer<const ParameterCollection::ParameterData> m_parameterData;
+    QSharedPointer<ParameterCollection::IParameter> m_node;
     QString m_unit;
+    mutable QString m_titleWithUnit; // "<displayed name> [<unit>]", built on first request
+    QString m_name;
+    QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
+    FeatureTreeHighlighter* m_highlighter = nullptr; // not owned
     QString m_descriptionText;
     QString m_toolTipText;
     QString m_docuUrl;
-    QString m_name;
-    mutable QString m_titleWithUnit; // "<displayed name> [<unit>]", built on first request
-    // The model that built the item and is told of its updates directly
-    // (see FeatureTreeModel::connectItem); it owns the item, so outlives it.
-    FeatureTreeModel* m_model = nullptr;
-    bool m_subscribed = false;
 };

@@ -235,6 +235,7 @@ QString FeatureTreeItem::getDisplayedName() const
 void FeatureTreeItem::setDisplayedName(QString name)
 {
     m_displayedName = std::move(name);
+    m_displayedNameChanged = true;
 }
 
 QString FeatureTreeItem::getFullName() const

@@ -131,6 +131,9 @@ protected:
     bool m_childrenFetched = false;
     bool m_fullRow = false;
     bool m_specialNode = false;
+    // Set whenever the displayed name is set; a derived class that keeps text
+    // built from the name clears it when it builds that text again.
+    mutable bool m_displayedNameChanged = true;
     IFeatureTreeModelExtension* m_extension; // not owned
 
 private:

@@ -138,4 +138,9 @@ private:
     bool m_genICamCallbacksEnabled = true;
     bool m_textAsUtf8 = false;
     FeatureTreeHighlighter* m_highlighter = nullptr; // not owned
+    // Items of this model whose children are still to be fetched (kept by the
+    // items, see FeatureTreeINodeItem::childCount): at zero the proxy knows
+    // that asking a row count can't fill anything.
+    int m_unfetchedCategories = 0;
+    friend class FeatureTreeINodeItem;
 };

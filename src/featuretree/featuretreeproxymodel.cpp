@@ -7,12 +7,17 @@
 #include "featuretreemodel.h"
 
 #include <QRegExp>
+#include <QVector>
 
 using namespace ParameterCollection;
 
 FeatureTreeProxyModel::FeatureTreeProxyModel(QObject* parent)
     : QSortFilterProxyModel(parent)
 {
+    // The base class drops its mappings around these two signals, and every
+    // row is filtered again as its parent is mapped anew.
+    connect(this, SIGNAL(layoutAboutToBeChanged()), this, SLOT(startPass()));
+    connect(this, SIGNAL(modelAboutToBeReset()), this, SLOT(startPass()));
 }
 
 FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
@@ -41,8 +46,17 @@ const FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel() const
 
 void FeatureTreeProxyModel::fillSourceLevel(const QModelIndex& parent) const
 {
-    if (QAbstractItemModel* source = sourceModel())
-        source->rowCount(mapToSource(parent));
+    QAbstractItemModel* source = sourceModel();
+    if (!source)
+        return;
+    // A view asks this for every row it walks. Once a FeatureTreeModel has
+    // fetched every category it has nothing left to fill, and the mapping of
+    // the parent to the source (about a tenth of a search keystroke on a large
+    // tree) is spared.
+    if (source->metaObject() == &FeatureTreeModel::staticMetaObject
+        && static_cast<const FeatureTreeModel*>(source)->m_unfetchedCategories == 0)
+        return;
+    source->rowCount(mapToSource(parent));
 }
 
 QModelIndex FeatureTreeProxyModel::index(int row, int column, const QModelIndex& parent) const
@@ -63,14 +77,85 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex& parent) const
     return QSortFilterProxyModel::hasChildren(parent);
 }
 
+namespace {
+
+// The search text folded to lower case, for the case-insensitive test below,
+// kept with the text it was made from.
+struct FoldedPattern
+{
+    QString source;
+    QVector<ushort> folded;
+    bool ascii = false;
+
+    void set(const QString& pattern)
+    {
+        source = pattern;
+        folded.resize(pattern.size());
+        ascii = true;
+        for (int i = 0; i < pattern.size(); ++i) {
+            const ushort c = pattern.at(i).unicode();
+            ascii = ascii && c < 0x80;
+            folded[i] = (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c;
+        }
+    }
+};
+
+// QString::contains(pattern, Qt::CaseInsensitive) where pattern and text are
+// ASCII, which feature names are: Qt's search folds every character through
+// the Unicode tables and took more time than the rest of the filter per row.
+// Gives -1 where it can't tell (text or pattern not ASCII, where Unicode
+// folding may map other characters onto letters), 0 or 1 otherwise.
+int containsAsciiIgnoringCase(const QString& text, const FoldedPattern& pattern)
+{
+    const int needleSize = pattern.folded.size();
+    if (!pattern.ascii || needleSize == 0)
+        return -1;
+    const ushort* haystack = reinterpret_cast<const ushort*>(text.constData());
+    const int size = text.size();
+    for (int i = 0; i < size; ++i) {
+        if (haystack[i] >= 0x80)
+            return -1;
+    }
+    const ushort* needle = pattern.folded.constData();
+    const auto fold = [](ushort c) { return (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c; };
+    for (int start = 0; start + needleSize <= size; ++start) {
+        int i = 0;
+        while (i < needleSize && fold(haystack[start + i]) == needle[i])
+            ++i;
+        if (i == needleSize)
+            return 1;
+    }
+    return 0;
+}
+
+bool matches(const QRegExp& pattern, const QString& text)
+{
+    // A fixed string, as the widget sets it, needs no regular expression machinery.
+    if (pattern.patternSyntax() != QRegExp::FixedString)
+        return pattern.indexIn(text) != -1;
+    const QString fixed = pattern.pattern();
+    if (pattern.caseSensitivity() == Qt::CaseInsensitive) {
+        // Folded once per search text (the texts are compared by identity).
+        thread_local FoldedPattern folded;
+        if (!fixed.isSharedWith(folded.source) || folded.source.isNull())
+            folded.set(fixed);
+        const int found = containsAsciiIgnoringCase(text, folded);
+        if (found >= 0)
+            return found == 1;
+    }
+    return text.contains(fixed, pattern.caseSensitivity());
+}
+
+} // namespace
+
 bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
 {
-    if (!m_patternCached)
-        m_pattern = filterRegExp();
-    // A fixed string, as the widget sets it, needs no regular expression machinery.
-    if (m_pattern.patternSyntax() == QRegExp::FixedString)
-        return text.contains(m_pattern.pattern(), m_pattern.caseSensitivity());
-    return m_pattern.indexIn(text) != -1;
+    // Outside filterAcceptsRow() the pattern of the pass is left alone. (Two
+    // calls, not one with a conditional: that would copy the pass's pattern
+    // into a temporary, a QRegExp allocation for every row.)
+    if (m_patternCached)
+        return matches(m_pattern, text);
+    return matches(filterRegExp(), text);
 }
 
 namespace {
@@ -139,13 +224,61 @@ bool FeatureTreeProxyModel::readFilterFields(const QModelIndex& index, void* fie
     return true;
 }
 
+void FeatureTreeProxyModel::MatchSet::insert(const QString& name)
+{
+    // At most half full, so that a probe ends soon at an empty slot.
+    if (2 * (used + 1) > int(table.size()))
+        grow();
+    const uint hash = qHash(name);
+    const size_t mask = table.size() - 1;
+    for (size_t i = hash & mask;; i = (i + 1) & mask) {
+        Slot& slot = table[i];
+        if (slot.pass == 0) {
+            slot.name = name;
+            slot.hash = hash;
+            slot.pass = pass;
+            ++used;
+            ++count;
+            return;
+        }
+        if (slot.hash == hash && slot.name == name) {
+            if (slot.pass != pass) {
+                slot.pass = pass;
+                ++count;
+            }
+            return;
+        }
+    }
+}
+
+void FeatureTreeProxyModel::MatchSet::grow()
+{
+    std::vector<Slot> old;
+    old.swap(table);
+    table.resize(qMax<size_t>(1024, 2 * old.size()));
+    const size_t mask = table.size() - 1;
+    for (Slot& slot : old) {
+        if (slot.pass == 0)
+            continue;
+        size_t i = slot.hash & mask;
+        while (table[i].pass != 0)
+            i = (i + 1) & mask;
+        table[i] = std::move(slot);
+    }
+}
+
 bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIndex& sourceParent) const
 {
     const QAbstractItemModel* source = sourceModel();
     if (!source)
         return false;
-    const QModelIndex index = source->index(sourceRow, 0, sourceParent);
-    if (!index.isValid())
+    return filterAcceptsIndexItself(source->index(sourceRow, 0, sourceParent));
+}
+
+bool FeatureTreeProxyModel::filterAcceptsIndexItself(const QModelIndex& index) const
+{
+    const QAbstractItemModel* source = sourceModel();
+    if (!source || !index.isValid())
         return false;
 
     if (!m_patternCached)
@@ -193,9 +326,9 @@ bool FeatureTreeProxyModel::filterAcceptsRowItself(int sourceRow, const QModelIn
     }
     // The search help line passes without matching.
     // (Its name role is its full name, so only a row named "Search" needs the look.)
-    const FeatureTreeModel* model = getFeatureTreeModel();
-    if (model && name == QLatin1String("Search")) {
-        const FeatureTreeItem* item = model->getFeatureTreeItem(index);
+    if (name == QLatin1String("Search")) {
+        const FeatureTreeModel* model = getFeatureTreeModel();
+        const FeatureTreeItem* item = model ? model->getFeatureTreeItem(index) : nullptr;
         if (item && item->getFullName() == QLatin1String("Search"))
             hit = true;
     }
@@ -225,23 +358,42 @@ bool FeatureTreeProxyModel::hasAcceptedChildren(int sourceRow, const QModelIndex
     return false;
 }
 
+void FeatureTreeProxyModel::startPass()
+{
+    // Adding a collection counts nothing and leaves the counts alone; the
+    // widget invalidates afterwards.
+    if (m_addingCollection)
+        return;
+    m_visibleMatches.startPass();
+    m_invisibleMatches.startPass();
+    m_patternKnown = false;
+}
+
 bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    // Filtering always begins at the first top-level row: a new pass, new counts.
-    if (sourceRow == 0 && !sourceParent.isValid()) {
-        m_visibleMatches.startPass();
-        m_invisibleMatches.startPass();
-    }
     if (m_addingCollection)
         return true;
     // The row, its ancestors and its children are each matched against the
     // filter, and the filter's pattern is only to be had as a copy, which
-    // costs about as much as filtering the row. A new filter text or a new
-    // source makes QSortFilterProxyModel filter the top level before any
-    // level below it, so the copy is taken on the top-level rows only (a
-    // handful per pass) and kept for the rows below them.
+    // costs about as much as filtering the row. A new filter text makes
+    // QSortFilterProxyModel filter the top level before any level below it,
+    // so the copy is taken on the top-level rows only (a handful per pass)
+    // and kept for the rows below them.
+    //
+    // A pass, and the counts with it, starts with a new text or level or when
+    // the mappings go (startPass()). Not with the first top-level row: a new text
+    // filters the shown rows before the hidden ones, and the mappings are
+    // built again first for the parents of the view's persistent rows, deep
+    // ones before the top level, so matches counted before that row would be
+    // lost and, their parents being mapped already, not come back.
     if (!sourceParent.isValid() || !m_patternKnown) {
-        m_pattern = filterRegExp();
+        const QRegExp pattern = filterRegExp();
+        if (pattern != m_pattern || m_visibility != m_passVisibility) {
+            m_visibleMatches.startPass();
+            m_invisibleMatches.startPass();
+            m_pattern = pattern;
+            m_passVisibility = m_visibility;
+        }
         m_patternKnown = true;
         const QAbstractItemModel* source = sourceModel();
         m_sourceIsFeatureTreeModel = source && source->metaObject() == &FeatureTreeModel::staticMetaObject;
@@ -258,9 +410,11 @@ bool FeatureTreeProxyModel::filterAcceptsRowOrRelative(int sourceRow, const QMod
 {
     if (filterAcceptsRowItself(sourceRow, sourceParent))
         return true;
-    // The descendants of a hit stay visible.
+    // The descendants of a hit stay visible. Each ancestor is judged by the
+    // index at hand: asking for it again by row under its own parent cost a
+    // parent() and an index() per level for every row that isn't a hit.
     for (QModelIndex ancestor = sourceParent; ancestor.isValid(); ancestor = ancestor.parent()) {
-        if (filterAcceptsRowItself(ancestor.row(), ancestor.parent()))
+        if (filterAcceptsIndexItself(ancestor.column() == 0 ? ancestor : ancestor.sibling(ancestor.row(), 0)))
             return true;
     }
     return hasAcceptedChildren(sourceRow, sourceParent, 0);
@@ -416,6 +570,8 @@ void FeatureTreeProxyModel::addChildren(FeatureTreeINodeItem* nodeItem)
 void FeatureTreeProxyModel::setVisibility(GenApi::EVisibility visibility)
 {
     m_visibility = visibility;
+    // The counts of the old level stay until the next row is filtered.
+    m_patternKnown = false;
     if (FeatureTreeModel* model = getFeatureTreeModel())
         model->setVisibility(visibility);
 }

@@ -7,6 +7,8 @@
 #include <QRegExp>
 #include <QSortFilterProxyModel>
 
+#include <vector>
+
 class FeatureTreeModel;
 
 /*!
@@ -21,8 +23,9 @@ class FeatureTreeModel;
  * counts once however many rows show it (tree and favourites, or two node
  * maps): the counts are keyed by the feature's name.
  *
- * The counts are a side effect of filtering and are complete once a whole
- * filtering pass over the tree has run.
+ * The counts are a side effect of filtering: they cover the rows filtered
+ * since the search text or the level changed or the mappings were last
+ * dropped (invalidate(), a layout change, a reset).
  */
 class ZVC_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel, public IFeatureTreeModelExtension
 {
@@ -103,9 +106,15 @@ protected:
     //! A child of the row, or a descendant, passes filterAcceptsRowItself.
     bool hasAcceptedChildren(int sourceRow, const QModelIndex& sourceParent, int depth) const;
 
+private slots:
+    //! New counts: the base class is about to drop its mappings and filter every row again.
+    void startPass();
+
 private:
     //! Lets the model fill the source level below parent, outside any mapping of the base class.
     void fillSourceLevel(const QModelIndex& parent) const;
+    //! filterAcceptsRowItself for the row of a source index in column 0.
+    bool filterAcceptsIndexItself(const QModelIndex& index) const;
     bool matchesFilter(const QString& text) const;
     bool filterAcceptsRowOrRelative(int sourceRow, const QModelIndex& sourceParent) const;
     //! Fills the filter's fields of a row from its item; false where only data() can tell.
@@ -117,28 +126,44 @@ private:
     // the number of the last pass that saw it, so that a new pass costs a
     // counter instead of freeing and allocating a table entry per feature
     // again; on a large tree that was a tenth of a keystroke.
+    //
+    // The names sit in one open-addressed table rather than a QHash: a QHash
+    // look-up reads a bucket and then a node allocated apart, two cache misses
+    // per matching row on a tree too large for the cache, where the table's
+    // slot holds name, hash and pass together.
     struct MatchSet
     {
-        QHash<QString, quint32> lastPass;
+        struct Slot
+        {
+            QString name;
+            uint hash = 0;
+            quint32 pass = 0; // 0: an empty slot
+        };
+        std::vector<Slot> table; // a power of two in size, or empty
+        int used = 0; // slots holding a name
         quint32 pass = 1;
         int count = 0;
 
         void startPass()
         {
             // Names no longer seen are dropped now and then, not on every pass.
-            if (lastPass.size() > 2 * count + 1024)
-                lastPass.clear();
-            ++pass;
+            if (used > 2 * count + 1024) {
+                table.clear();
+                used = 0;
+            }
+            // Pass 0 marks empty slots; when the number wraps, old slots
+            // could pass for this pass's, so the table starts afresh.
+            if (++pass == 0) {
+                table.clear();
+                used = 0;
+                pass = 1;
+            }
             count = 0;
         }
-        void insert(const QString& name)
-        {
-            quint32& seen = lastPass[name];
-            if (seen != pass) {
-                seen = pass;
-                ++count;
-            }
-        }
+        void insert(const QString& name);
+
+    private:
+        void grow();
     };
     // Filled during const filtering.
     mutable MatchSet m_visibleMatches;
@@ -147,6 +172,8 @@ private:
     // filterAcceptsRow() runs (m_patternCached).
     mutable QRegExp m_pattern;
     mutable bool m_patternKnown = false;
+    // The level of the present pass.
+    mutable GenApi::EVisibility m_passVisibility = GenApi::Guru;
     mutable bool m_patternCached = false;
     // The source is a FeatureTreeModel itself, not a class derived from it.
     mutable bool m_sourceIsFeatureTreeModel = false;

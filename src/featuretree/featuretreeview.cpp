@@ -304,6 +304,17 @@ void FeatureTreeView::onSelfExpanded(QModelIndex const& index)
             extension->GetFavorites()->setExpanded(true);
     }
     openPersistentEditorsForChildren(index);
+    // The rows below children that stayed expanded come into sight again
+    // too. A bulk change while the branch was collapsed closed their editors
+    // and opened again only those of the rows then on screen.
+    if (QAbstractItemModel* itemModel = model()) {
+        const int rows = itemModel->rowCount(index);
+        for (int row = 0; row < rows; ++row) {
+            const QModelIndex child = itemModel->index(row, 0, index);
+            if (!isRowHidden(row, index) && isExpanded(child))
+                openVisibleEditors(child);
+        }
+    }
 }
 
 void FeatureTreeView::onSelfCollapsed(QModelIndex const& index)

@@ -461,12 +461,6 @@ void FeatureTreeWidget::onFilterTextChanged(QString const& newText)
             saveSelectionStatus();
         }
         proxy->setFilterFixedString(newText);
-        // A changed fixed string re-filters the rows the proxy shows before
-        // those it hides, so the pass that counts the matches need not start
-        // at the first top row, where the counts are reset. One whole pass
-        // from the top makes the counts read below complete.
-        if (!newText.isEmpty())
-            proxy->invalidate();
         if (!patternWasEmpty && newText.isEmpty()) {
             restoreExpandedStatus();
             restoreSelectionStatus();
