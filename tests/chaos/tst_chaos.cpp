@@ -59,6 +59,8 @@ int g_features = 10000;
 const char* const kNodeMaps[]
     = { "@CameraDevice", "@DeviceTransportLayer", "@StreamGrabber0", "@EventGrabber", "@ImageFormatConverter" };
 const char* const kSynthetic = "@SyntheticDevice";
+// The favourites list is kept below this length (see the favourite step).
+const int kManyFavourites = 16;
 
 const char* const kSearchTexts[] = { "gain", "Width", "a", "x", "Fav", "Root", "*", "?", "feature1", "Exp", "zz" };
 
@@ -388,6 +390,17 @@ QString TestChaos::step(int kind)
         return QStringLiteral("edit ") + row.data(FeatureTreeItem::NodeNameRole).toString();
     }
     case 5: { // add, move or remove a favourite by the widget's actions
+        // Each change of the list rebuilds all its rows: a list grown to
+        // hundreds over a long run would make every later step slower. Past
+        // a few dozen one goes.
+        if (FeatureTreeModel::m_favorites.countNodes() >= kManyFavourites && extension) {
+            const QModelIndex root = extension->GetFavoritesRootIndex();
+            const int rows = root.isValid() ? view->model()->rowCount(root) : 0;
+            if (rows > 0) {
+                view->setCurrentIndex(view->model()->index(pick(rows), 0, root));
+                return triggerFavouriteAction(m_widget->findChild<QAction*>(QStringLiteral("actionRemoveFavourite")));
+            }
+        }
         const QModelIndex row = chance(50) ? randomFeatureRow() : QModelIndex();
         if (row.isValid())
             view->setCurrentIndex(row);
@@ -412,6 +425,8 @@ QString TestChaos::step(int kind)
             return QStringLiteral("drag: no payload");
         if (extension->getFavoritesIndexFromModelIndex(row) >= 0)
             return QStringLiteral("drag: a favourite");
+        if (FeatureTreeModel::m_favorites.countNodes() >= kManyFavourites)
+            return QStringLiteral("drag: favourites enough");
         const int before = FeatureTreeModel::m_favorites.countNodes();
         const int at = pick(before + 1);
         model->dropMimeData(data.get(), Qt::CopyAction, at, 0, root);
