@@ -179,6 +179,8 @@ private slots:
     void addFavorite();
     void removeAndMoveFavorites();
     void canAddAsFavorite();
+    void canAddAsFavoriteIsFalseWhenTheDeviceFailsToTellTheKind_data();
+    void canAddAsFavoriteIsFalseWhenTheDeviceFailsToTellTheKind();
     void helpItemIsNotDraggableAndNotRemovable();
 
     // drag and drop
@@ -681,6 +683,44 @@ void TestFeatureTreeFavorites::removeAndMoveFavorites()
     QCOMPARE(favoriteRows(model),
         QStringList({ QStringLiteral("Fav*CameraDevice*Height"), QStringLiteral("Fav*CameraDevice*Width"),
             QStringLiteral("Fav*CameraDevice*Gain") }));
+}
+
+void TestFeatureTreeFavorites::canAddAsFavoriteIsFalseWhenTheDeviceFailsToTellTheKind_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("cause");
+    QTest::newRow("GenICam exception") << int(Simulation::FaultKind::GenICam)
+                                       << QStringLiteral("^CanAddAsFavorite :  Exception occurred:");
+    QTest::newRow("std exception") << int(Simulation::FaultKind::StdException)
+                                   << QStringLiteral("^CanAddAsFavorite :  Exception occurred:");
+    QTest::newRow("not a std exception") << int(Simulation::FaultKind::NonStdException)
+                                         << QStringLiteral("^CanAddAsFavorite: Unspecified exception occurred\\.$");
+}
+
+void TestFeatureTreeFavorites::canAddAsFavoriteIsFalseWhenTheDeviceFailsToTellTheKind()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, cause);
+    setStore({});
+    FeatureTreeModel model;
+    model.addParameterCollection(m_device->nodeMap(camera), QStringLiteral("Camera"), camera, false);
+    const QModelIndex gain = model.findItemByFullName(QStringLiteral("@CameraDevice/Gain"), nullptr, 0);
+    QVERIFY(model.CanAddAsFavorite(gain));
+
+    // Asked as the current row changes; the exception must not reach the view.
+    m_device->injectFault(
+        QStringLiteral("@CameraDevice/Gain"), Simulation::Operation::GetType, Simulation::FaultKind(kind), 1);
+    QTest::ignoreMessage(QtWarningMsg, "Failed to read the kind of the node @CameraDevice/Gain");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(cause));
+    bool can = true;
+    try {
+        can = model.CanAddAsFavorite(gain);
+    } catch (...) {
+        QFAIL("an exception escaped");
+    }
+    QVERIFY(!can);
+    QVERIFY(model.CanAddAsFavorite(gain));
+    m_device->clearFaults();
 }
 
 void TestFeatureTreeFavorites::canAddAsFavorite()

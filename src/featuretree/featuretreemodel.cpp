@@ -848,10 +848,18 @@ bool FeatureTreeModel::CanAddAsFavorite(QModelIndex index) const
     if (!item)
         return false;
     const QSharedPointer<IParameter> node = item->node();
-    if (!node || node->isZombie())
+    // Asked as the current row changes: a device that fails to answer makes
+    // the feature no candidate, and nothing escapes into the view.
+    try {
+        if (!node || node->isZombie())
+            return false;
+        const int kind = node->getType();
+        if (kind < TypeInteger || kind > TypeEnumeration)
+            return false;
+    } catch (...) {
+        ExceptionLogging::logCurrentException(
+            "CanAddAsFavorite", QStringLiteral("Failed to read the kind of the node %1").arg(item->getFullName()));
         return false;
-    const int kind = node->getType();
-    if (kind < TypeInteger || kind > TypeEnumeration)
-        return false;
+    }
     return getFavoritesIndexFromModelIndex(index) < 0;
 }

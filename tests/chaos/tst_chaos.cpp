@@ -44,6 +44,7 @@
 #include <QWheelEvent>
 
 #include <cstdio>
+#include <ctime>
 #include <random>
 #include <thread>
 
@@ -58,6 +59,8 @@ int g_features = 10000;
 const char* const kNodeMaps[]
     = { "@CameraDevice", "@DeviceTransportLayer", "@StreamGrabber0", "@EventGrabber", "@ImageFormatConverter" };
 const char* const kSynthetic = "@SyntheticDevice";
+// The favourites list is kept below this length (see the favourite step).
+const int kManyFavourites = 16;
 
 const char* const kSearchTexts[] = { "gain", "Width", "a", "x", "Fav", "Root", "*", "?", "feature1", "Exp", "zz" };
 
@@ -100,6 +103,7 @@ private:
     void onContextMenu(QSharedPointer<QMenu> menu);
     void compareCounts(int total, int hidden);
     QString checkEditors();
+    QString walkEditors(bool onlyShown, int* editorsSeen);
     QString checkFavourites();
     QList<Shadow> storeList() const;
     void deliver() { TreeTest::deliver(); }
@@ -386,6 +390,17 @@ QString TestChaos::step(int kind)
         return QStringLiteral("edit ") + row.data(FeatureTreeItem::NodeNameRole).toString();
     }
     case 5: { // add, move or remove a favourite by the widget's actions
+        // Each change of the list rebuilds all its rows: a list grown to
+        // hundreds over a long run would make every later step slower. Past
+        // a few dozen one goes.
+        if (FeatureTreeModel::m_favorites.countNodes() >= kManyFavourites && extension) {
+            const QModelIndex root = extension->GetFavoritesRootIndex();
+            const int rows = root.isValid() ? view->model()->rowCount(root) : 0;
+            if (rows > 0) {
+                view->setCurrentIndex(view->model()->index(pick(rows), 0, root));
+                return triggerFavouriteAction(m_widget->findChild<QAction*>(QStringLiteral("actionRemoveFavourite")));
+            }
+        }
         const QModelIndex row = chance(50) ? randomFeatureRow() : QModelIndex();
         if (row.isValid())
             view->setCurrentIndex(row);
@@ -410,6 +425,8 @@ QString TestChaos::step(int kind)
             return QStringLiteral("drag: no payload");
         if (extension->getFavoritesIndexFromModelIndex(row) >= 0)
             return QStringLiteral("drag: a favourite");
+        if (FeatureTreeModel::m_favorites.countNodes() >= kManyFavourites)
+            return QStringLiteral("drag: favourites enough");
         const int before = FeatureTreeModel::m_favorites.countNodes();
         const int at = pick(before + 1);
         model->dropMimeData(data.get(), Qt::CopyAction, at, 0, root);
@@ -720,6 +737,19 @@ QString TestChaos::checkEditors()
     // the view shows, below expanded parents, that may have one: an item that
     // wants a persistent editor, within the level, and available.
     QTreeView* view = m_widget->treeView();
+    // The rows shown first; collapsed branches only when some editor is not
+    // among the shown rows, since walking them maps them all in the proxy.
+    const int editors = view->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).size();
+    int editorsSeen = 0;
+    QString failure = walkEditors(true, &editorsSeen);
+    if (failure.isEmpty() && editorsSeen < editors)
+        failure = walkEditors(false, &editorsSeen);
+    return failure;
+}
+
+QString TestChaos::walkEditors(bool onlyShown, int* editorsSeen)
+{
+    QTreeView* view = m_widget->treeView();
     QAbstractItemModel* model = view->model();
     IFeatureTreeModelExtension* extension = m_widget->getFeatureExtension();
     const GenApi::EVisibility level = m_widget->visibility();
@@ -732,11 +762,15 @@ QString TestChaos::checkEditors()
             const QModelIndex index = model->index(row, 1, parent);
             const QModelIndex name = index.sibling(row, 0);
             const bool hidden = view->isRowHidden(row, parent);
-            pending << qMakePair(name, parentShown && !hidden && view->isExpanded(name));
+            const bool shown = parentShown && !hidden && view->isExpanded(name);
+            if (shown || !onlyShown)
+                pending << qMakePair(name, shown);
             FeatureTreeItem* item = extension->getFeatureTreeItem(index);
             if (!item || !item->usePersistentEditor())
                 continue;
             const bool editor = view->indexWidget(index) != nullptr;
+            if (editor && onlyShown)
+                ++*editorsSeen;
             if (!editor && (!parentShown || hidden))
                 continue;
             const QString fullName = name.data(FeatureTreeItem::FullNameRole).toString();
@@ -853,6 +887,7 @@ void TestChaos::soak()
     qint64 checkTime = 0;
     QElapsedTimer wall;
     wall.start();
+    const std::clock_t cpuStart = std::clock();
     const bool trace = qEnvironmentVariableIsSet("ZVC_CHAOS_TRACE");
     for (int i = 0; i < g_steps; ++i) {
         int roll = pick(sum);
@@ -895,8 +930,11 @@ void TestChaos::soak()
         }
     }
     const double seconds = double(wall.nsecsElapsed()) / 1e9;
-    std::printf("tst_chaos: %d steps passed, seed %llu, %d synthetic features, %.1f s, %.1f steps/s\n", g_steps,
-        static_cast<unsigned long long>(g_seed), g_features, seconds, seconds > 0 ? g_steps / seconds : 0.0);
+    const double cpuSeconds = double(std::clock() - cpuStart) / CLOCKS_PER_SEC;
+    std::printf("tst_chaos: %d steps passed, seed %llu, %d synthetic features, %.1f s (%.1f s of processor time), "
+                "%.1f steps/s\n",
+        g_steps, static_cast<unsigned long long>(g_seed), g_features, seconds, cpuSeconds,
+        seconds > 0 ? g_steps / seconds : 0.0);
     for (int kind = 0; kind < kinds; ++kind)
         std::printf("tst_chaos:   %-16s %7d steps %9.1f s\n", kindNames[kind], stepsOfKind[kind],
             double(timeOfKind[kind]) / 1e9);
