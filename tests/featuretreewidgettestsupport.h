@@ -51,11 +51,15 @@ inline void impose(
         ->setProperty(QLatin1String(key), QLatin1String(value));
 }
 
-//! Lets the device's queued change signals arrive.
+//! Lets the device's queued change signals arrive, and frees what was deleted later.
 inline void deliver()
 {
     for (int i = 0; i < 5; ++i)
         QCoreApplication::processEvents();
+    // A test function runs outside any event loop, where processEvents() never
+    // runs deferred deletes: every editor the view closed would stay alive to
+    // the end of the test, as an application's event loop would not let it.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 //! The view's proxy index of a feature in the given column.
