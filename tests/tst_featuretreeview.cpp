@@ -41,6 +41,7 @@ private slots:
 
     void editorsOpenBelowExpandedParentsOnly();
     void accessNotAvailableClosesAndReopensTheEditor();
+    void rowsShownByARefilteringGetTheirEditors();
     void featureAboveTheLevelWhileCurrentIsHidden();
     void setVisibilityTwiceWithTheSameLevelDoesNothing();
     void noSearchResultsTextFollowsTheTopRowCount();
@@ -125,6 +126,33 @@ void TestFeatureTreeView::accessNotAvailableClosesAndReopensTheEditor()
     impose(m_device, "Flag", "AccessMode", "RO");
     deliver();
     QVERIFY(view.indexWidget(flag));
+}
+
+void TestFeatureTreeView::rowsShownByARefilteringGetTheirEditors()
+{
+    FeatureTreeView view;
+    addCamera(view);
+    auto* proxy = static_cast<FeatureTreeProxyModel*>(view.model());
+    view.setVisibility(GenApi::Beginner);
+    proxy->setVisibility(GenApi::Beginner);
+    proxy->invalidate();
+    view.show();
+    const QModelIndex flag = viewIndex(view, cameraFeature("Flag"), 1);
+    expandTo(view, flag);
+    QVERIFY(view.indexWidget(flag));
+    // The Guru feature is filtered out at Beginner.
+    QVERIFY(!viewIndex(view, cameraFeature("Secret"), 1).isValid());
+
+    // It comes down to Beginner: the proxy doesn't filter again on a change of
+    // data, only when it is invalidated, and then the row comes with a layout change.
+    impose(m_device, "Secret", "Visibility", "Beginner");
+    deliver();
+    QVERIFY(!viewIndex(view, cameraFeature("Secret"), 1).isValid());
+    proxy->invalidate();
+    const QModelIndex secret = viewIndex(view, cameraFeature("Secret"), 1);
+    QVERIFY(secret.isValid());
+    QVERIFY(!view.isRowHidden(secret.row(), secret.parent()));
+    QVERIFY(view.indexWidget(secret));
 }
 
 void TestFeatureTreeView::featureAboveTheLevelWhileCurrentIsHidden()

@@ -68,6 +68,16 @@ void FeatureTreeView::createModel()
     proxy->setFilterKeyColumn(1);
     proxy->setHighlighter(&m_highlighter);
     setItemDelegate(new FeatureTreeDelegate(this, proxy, &m_highlighter));
+    connect(proxy, SIGNAL(layoutChanged()), this, SLOT(onModelLayoutChanged()));
+}
+
+void FeatureTreeView::onModelLayoutChanged()
+{
+    // invalidate() filters every row again: a row that passes now and did
+    // not before comes with the layout change, not as an inserted row, and
+    // nothing else gives it an editor. (Within a bulk change this waits for
+    // its end.)
+    openVisibleEditors();
 }
 
 IFeatureTreeModelExtension* FeatureTreeView::getFeatureExtension()

@@ -92,6 +92,10 @@ public slots:
     void onFavoriteDataUpdated();
     void onFavoriteDataExpanded(bool bExpand);
 
+private slots:
+    //! Opens the editors of the rows that a re-filtering brought into sight.
+    void onModelLayoutChanged();
+
 protected:
     void dataChanged(QModelIndex const& topLeft, QModelIndex const& bottomRight,
         QVector<int> const& roles = QVector<int>()) override;
