@@ -8,6 +8,7 @@
 #include "featuretree/featuretreemodel.h"
 #include "featuretree/featuretreeproxymodel.h"
 
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 
@@ -41,6 +42,7 @@ private slots:
 
     void editorsOpenBelowExpandedParentsOnly();
     void accessNotAvailableClosesAndReopensTheEditor();
+    void editorsTheViewClosesAreFreed();
     void rowsShownByARefilteringGetTheirEditors();
     void featureAboveTheLevelWhileCurrentIsHidden();
     void setVisibilityTwiceWithTheSameLevelDoesNothing();
@@ -126,6 +128,52 @@ void TestFeatureTreeView::accessNotAvailableClosesAndReopensTheEditor()
     impose(m_device, "Flag", "AccessMode", "RO");
     deliver();
     QVERIFY(view.indexWidget(flag));
+}
+
+void TestFeatureTreeView::editorsTheViewClosesAreFreed()
+{
+    FeatureTreeView view;
+    addCamera(view);
+    view.show();
+    const QPersistentModelIndex flag = viewIndex(view, cameraFeature("Flag"), 1);
+    expandTo(view, flag);
+    const QPointer<QWidget> editor = view.indexWidget(flag);
+    QVERIFY(editor);
+    const auto editorsOf
+        = [&view] { return view.viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).size(); };
+    const int open = editorsOf();
+    QVERIFY(open > 0);
+
+    // A closed editor goes with the next turn of the event loop; a view that
+    // only hid it would grow by a widget on every close, for as long as it lives.
+    impose(m_device, "Flag", "AccessMode", "NA");
+    deliver();
+    QVERIFY(!view.indexWidget(flag));
+    QVERIFY(editor.isNull());
+    QCOMPARE(editorsOf(), open - 1);
+
+    impose(m_device, "Flag", "AccessMode", "RW");
+    deliver();
+    QVERIFY(view.indexWidget(flag));
+    QCOMPARE(editorsOf(), open);
+
+    // Collapsing and expanding the branch, and bulk changes that close every
+    // editor and open them again, called outside any event loop as a host may
+    // call them, leave as many editors as before.
+    const QPersistentModelIndex branch = flag.parent();
+    auto* proxy = static_cast<FeatureTreeProxyModel*>(view.model());
+    for (int i = 0; i < 5; ++i) {
+        view.collapse(branch);
+        deliver();
+        view.expand(branch);
+        deliver();
+        view.beginBulkChange();
+        proxy->invalidate();
+        view.endBulkChange();
+        deliver();
+    }
+    QVERIFY(view.indexWidget(flag));
+    QCOMPARE(editorsOf(), open);
 }
 
 void TestFeatureTreeView::rowsShownByARefilteringGetTheirEditors()
