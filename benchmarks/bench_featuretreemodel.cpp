@@ -68,10 +68,31 @@ int main(int argc, char** argv)
     QTextStream out(stdout);
 
     // An optional feature count narrows the run, for profiling: "bench_featuretreemodel 100000".
+    // "bench_featuretreemodel 100000 once" builds one tree and stops at its
+    // peak, for a heap profiler to attribute the bytes of a row.
     const QStringList arguments = QCoreApplication::arguments();
     QList<int> counts = { 1000, 10000, 100000 };
     if (arguments.size() > 1)
         counts = { arguments.at(1).toInt() };
+    if (arguments.size() > 2 && arguments.at(2) == QLatin1String("once")) {
+        const QSharedPointer<SimulatedDevice> device = makeDevice(counts.first(), 0, 0);
+        const QSharedPointer<IParameterCollection> collection = device->nodeMap(nodeMapName);
+        QList<QSharedPointer<IParameter>> parameters;
+        {
+            QStandardItemModel warmUp;
+            auto* root = new QStandardItem;
+            warmUp.appendRow(root);
+            parameters.append(collection->getParameter(nodeMapName + QStringLiteral("/Root")));
+            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"), &parameters);
+        }
+        const qint64 heapBefore = BenchmarkUtil::heapInUse();
+        FeatureTreeModel model;
+        model.addParameterCollection(collection, QStringLiteral("Camera"), nodeMapName, false);
+        const int rows = walkRowCount(model, QModelIndex());
+        out << rows << " rows, heap bytes per row " << (BenchmarkUtil::heapInUse() - heapBefore) / qMax(rows, 1)
+            << '\n';
+        return 0;
+    }
 
     out << "                                      FeatureTreeModel   QStandardItemModel   ratio\n";
     for (const int count : qAsConst(counts)) {
