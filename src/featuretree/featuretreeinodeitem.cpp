@@ -11,72 +11,12 @@
 #include "parameters/iintegerparameter.h"
 
 #include <QCoreApplication>
-#include <QHash>
+#include <QMetaMethod>
 #include <QUuid>
-#include <QVarLengthArray>
-#include <QVector>
 
 using namespace ParameterCollection;
 
 namespace {
-
-// The items subscribed to the parameters' change signal.
-//
-// A tree of the largest cameras has 100 000 items; a connection of its own
-// from each parameter to each item cost two connection lists (the parameter's
-// as sender, the item's as receiver) and the parsing of two signatures per
-// item: about a third of the bytes of a row and much of the time to build it.
-// Instead each parameter has one connection, made on the first item that
-// subscribes and dropped with the last, to one context object that hands the
-// snapshot to the items in the order they subscribed, the tree's item before
-// its favourite twin. Delivery stays an automatic connection on the thread of
-// the items, so a signal from the parameter layer's own thread is queued as
-// before.
-struct Subscription
-{
-    FeatureTreeINodeItem* first = nullptr;
-    // Numbers the connection made for this entry (see subscribe()).
-    quint32 serial = 0;
-    // Other items subscribed as well (a favourite twin, a second model): kept
-    // in Subscriptions::more, which is empty for nearly every parameter.
-    bool hasMore = false;
-};
-
-struct Subscriptions
-{
-    QObject context;
-    QHash<const IParameter*, Subscription> byParameter;
-    QHash<const IParameter*, QVector<FeatureTreeINodeItem*>> more;
-    quint32 lastSerial = 0;
-
-    void deliver(const IParameter* parameter, quint32 serial, const QSharedPointer<const ParameterData>& data)
-    {
-        const auto found = byParameter.constFind(parameter);
-        if (found == byParameter.constEnd() || found->serial != serial)
-            return;
-        // A copy: an item's update may reach code that subscribes or unsubscribes.
-        QVarLengthArray<FeatureTreeINodeItem*, 4> items;
-        items.append(found->first);
-        if (found->hasMore) {
-            for (FeatureTreeINodeItem* item : more.value(parameter))
-                items.append(item);
-        }
-        for (FeatureTreeINodeItem* item : items) {
-            if (isSubscribed(parameter, serial, item))
-                item->onParameterDataChanged(data);
-        }
-    }
-
-    bool isSubscribed(const IParameter* parameter, quint32 serial, const FeatureTreeINodeItem* item) const
-    {
-        const auto found = byParameter.constFind(parameter);
-        if (found == byParameter.constEnd() || found->serial != serial)
-            return false;
-        if (found->first == item)
-            return true;
-        return found->hasMore && more.value(parameter).contains(const_cast<FeatureTreeINodeItem*>(item));
-    }
-};
 
 // GetNodemapName() for an item's full name. The answer depends only on the
 // text before the first "/" after the leading character, and the rows of one
@@ -125,12 +65,25 @@ template <typename Representation> int editorTypeOfKind(const IParameter& node, 
     }
 }
 
-Subscriptions& subscriptions()
+// The parameter's change signal and the item's slot, looked up once.
+//
+// Items connect by these rather than by member-function pointers or by
+// signature strings. The string form parsed and normalised two signatures for
+// each of the 100 000 items of the largest trees, which was much of the time
+// to build a row; the pointer form gives each connection a slot object of its
+// own, 48 heap bytes a row. A connection by method index has neither.
+const QMetaMethod& parameterChangedSignal()
 {
-    // Made on the thread of the first item, which is the thread of the widgets,
-    // and kept to the end of the process: items may be freed as late as that.
-    static Subscriptions* const instance = new Subscriptions;
-    return *instance;
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&IParameter::parameterDataChangedDecoupled);
+    return signal;
+}
+
+const QMetaMethod& itemChangedSlot()
+{
+    static const QMetaMethod slot = FeatureTreeINodeItem::staticMetaObject.method(
+        FeatureTreeINodeItem::staticMetaObject.indexOfSlot(QMetaObject::normalizedSignature(
+            "onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)")));
+    return slot;
 }
 
 } // namespace
@@ -176,25 +129,10 @@ FeatureTreeINodeItem::~FeatureTreeINodeItem()
 
 void FeatureTreeINodeItem::subscribe()
 {
-    Subscriptions& all = subscriptions();
-    IParameter* parameter = m_node.data();
-    Subscription& subscription = all.byParameter[parameter];
-    if (!subscription.first) {
-        subscription.first = this;
-        // Each connection gets a number of its own, which its deliveries carry.
-        // A change still queued for a parameter that has gone since is dropped
-        // by it: a new parameter may by then live at the same address, and its
-        // entry has a newer number. (A QPointer to the parameter did the same
-        // at the cost of a shared reference count block per parameter.)
-        subscription.serial = ++all.lastSerial;
-        const quint32 serial = subscription.serial;
-        connect(parameter, &IParameter::parameterDataChangedDecoupled, &all.context,
-            [parameter, serial](
-                QSharedPointer<const ParameterData> data) { subscriptions().deliver(parameter, serial, data); });
-    } else {
-        subscription.hasMore = true;
-        all.more[parameter].append(this);
-    }
+    // The item is the receiver, so Qt drops the connection, and any change
+    // still queued for the item from the parameter layer's own thread, when
+    // the item goes.
+    connect(m_node.data(), parameterChangedSignal(), this, itemChangedSlot());
     m_subscribed = true;
 }
 
@@ -203,34 +141,7 @@ void FeatureTreeINodeItem::unsubscribe()
     if (!m_subscribed)
         return;
     m_subscribed = false;
-    Subscriptions& all = subscriptions();
-    const IParameter* parameter = m_node.data();
-    const auto found = all.byParameter.find(parameter);
-    if (found == all.byParameter.end())
-        return;
-    if (found->first != this) {
-        const auto others = all.more.find(parameter);
-        if (others != all.more.end()) {
-            others->removeOne(this);
-            if (others->isEmpty()) {
-                all.more.erase(others);
-                found->hasMore = false;
-            }
-        }
-        return;
-    }
-    const auto others = found->hasMore ? all.more.find(parameter) : all.more.end();
-    if (others == all.more.end()) {
-        // The parameter's only connection to the context.
-        QObject::disconnect(m_node.data(), &IParameter::parameterDataChangedDecoupled, &all.context, nullptr);
-        all.byParameter.erase(found);
-        return;
-    }
-    found->first = others->takeFirst();
-    if (others->isEmpty()) {
-        all.more.erase(others);
-        found->hasMore = false;
-    }
+    disconnect(m_node.data(), parameterChangedSignal(), this, itemChangedSlot());
 }
 
 void FeatureTreeINodeItem::initInternal(QString* displayName)
