@@ -4,6 +4,7 @@
 #include "featuretreetestsupport.h"
 
 #include "featuretree/featuretreefavoritesitem.h"
+#include "featuretree/featuretreehighlighter.h"
 #include "featuretree/featuretreeinodeitem.h"
 #include "featuretree/featuretreeitem.h"
 #include "featuretree/featuretreemodel.h"
@@ -111,6 +112,10 @@ private slots:
     void shallowFinders();
     void favoritesItem();
     void translationContextOfTwoNodeMapsBuiltAlternately();
+    void titleWithUnitFollowsEveryNewDisplayedName();
+    void highlighterOfOneItemLeavesTheOthersAlone();
+    void childrenKeepTheirOwnCollection();
+    void plainItemKeepsDescriptionAndToolTipApart();
 
 private:
     QSharedPointer<IParameter> parameter(const QString& name) const
@@ -726,6 +731,117 @@ void TestFeatureTreeItem::translationContextOfTwoNodeMapsBuiltAlternately()
     QVERIFY(contexts.at(1) != contexts.at(0));
     QCOMPARE(contexts.at(2), contexts.at(0));
     QCOMPARE(contexts.at(3), contexts.at(1));
+}
+
+void TestFeatureTreeItem::titleWithUnitFollowsEveryNewDisplayedName()
+{
+    const auto withUnit = item(QStringLiteral("IntPlain"));
+    // The unit is kept until the title is first built, and read back from the
+    // title when the displayed name changes: each name must keep the unit.
+    withUnit->setDisplayedName(QStringLiteral("Before [x]"));
+    QCOMPARE(withUnit->data(0, Qt::DisplayRole).toString(), QStringLiteral("Before [x] [px]"));
+    QCOMPARE(withUnit->data(0, Qt::DisplayRole).toString(), QStringLiteral("Before [x] [px]"));
+    withUnit->setDisplayedName(QStringLiteral("A"));
+    QCOMPARE(withUnit->data(0, Qt::DisplayRole).toString(), QStringLiteral("A [px]"));
+    withUnit->setDisplayedName(QStringLiteral("A much longer name than before"));
+    QCOMPARE(withUnit->data(0, Qt::DisplayRole).toString(), QStringLiteral("A much longer name than before [px]"));
+    withUnit->setDisplayedName(QString());
+    QCOMPARE(withUnit->data(0, Qt::DisplayRole).toString(), QStringLiteral(" [px]"));
+    withUnit->setDisplayedName(QStringLiteral("%1 %2"));
+    QCOMPARE(withUnit->data(0, Qt::DisplayRole).toString(), QStringLiteral("%1 %2 [px]"));
+
+    const auto withoutUnit = item(QStringLiteral("IntLinear"));
+    withoutUnit->setDisplayedName(QStringLiteral("Plain [px]"));
+    QCOMPARE(withoutUnit->data(0, Qt::DisplayRole).toString(), QStringLiteral("Plain [px]"));
+}
+
+void TestFeatureTreeItem::highlighterOfOneItemLeavesTheOthersAlone()
+{
+    const auto collection = m_device->nodeMap(QStringLiteral("@CameraDevice"));
+    FeatureTreeINodeItem parent(collection, parameter(QStringLiteral("Features")), m_model.get(),
+        QStringLiteral("@CameraDevice/Features"), nullptr, false);
+    auto* first = new FeatureTreeINodeItem(collection, parameter(QStringLiteral("IntPlain")), m_model.get(),
+        QStringLiteral("@CameraDevice/IntPlain"), &parent, false);
+    parent.appendChild(first);
+    FeatureTreeHighlighter one;
+    FeatureTreeHighlighter other;
+    parent.setHighlighter(&one);
+    // A child built after its parent got a highlighter has none of its own.
+    auto* second = new FeatureTreeINodeItem(collection, parameter(QStringLiteral("RootCause")), m_model.get(),
+        QStringLiteral("@CameraDevice/RootCause"), &parent, false);
+    parent.appendChild(second);
+    QCOMPARE(parent.highlighter(), &one);
+    QCOMPARE(first->highlighter(), nullptr);
+    QCOMPARE(second->highlighter(), nullptr);
+
+    first->setHighlighter(&other);
+    QCOMPARE(first->highlighter(), &other);
+    QCOMPARE(parent.highlighter(), &one);
+    QCOMPARE(second->highlighter(), nullptr);
+
+    second->setHighlighter(&one);
+    parent.setHighlighter(nullptr);
+    QCOMPARE(parent.highlighter(), nullptr);
+    QCOMPARE(first->highlighter(), &other);
+    QCOMPARE(second->highlighter(), &one);
+
+    // The tool tip is marked by the item's own highlighter only.
+    one.setTextToHighlight(QStringLiteral("Root"));
+    other.setTextToHighlight(QStringLiteral("Plain"));
+    QVERIFY(second->data(0, Qt::ToolTipRole).toString().contains(QLatin1String("<span")));
+    QVERIFY(first->data(0, Qt::ToolTipRole).toString().contains(QLatin1String("<span")));
+    first->setHighlighter(nullptr);
+    QVERIFY(!first->data(0, Qt::ToolTipRole).toString().contains(QLatin1String("<span")));
+    QVERIFY(second->data(0, Qt::ToolTipRole).toString().contains(QLatin1String("<span")));
+}
+
+void TestFeatureTreeItem::childrenKeepTheirOwnCollection()
+{
+    const auto collection = m_device->nodeMap(QStringLiteral("@CameraDevice"));
+    const QSharedPointer<Simulation::SimulatedDevice> otherDevice = makeDevice(itemCamera);
+    const auto otherCollection = otherDevice->nodeMap(QStringLiteral("@CameraDevice"));
+    FeatureTreeINodeItem parent(collection, parameter(QStringLiteral("Features")), m_model.get(),
+        QStringLiteral("@CameraDevice/Features"), nullptr, false);
+    auto* same = new FeatureTreeINodeItem(collection, parameter(QStringLiteral("IntPlain")), m_model.get(),
+        QStringLiteral("@CameraDevice/IntPlain"), &parent, false);
+    parent.appendChild(same);
+    auto* other = new FeatureTreeINodeItem(otherCollection,
+        otherCollection->getParameter(QStringLiteral("@CameraDevice/IntPlain")), m_model.get(),
+        QStringLiteral("@CameraDevice/IntPlain"), &parent, false);
+    parent.appendChild(other);
+    FeatureTreeItem plain(QStringLiteral("Plain"), m_model.get(), QStringLiteral("Plain"), nullptr);
+    auto* underPlain = new FeatureTreeINodeItem(otherCollection,
+        otherCollection->getParameter(QStringLiteral("@CameraDevice/IntPlain")), m_model.get(),
+        QStringLiteral("@CameraDevice/IntPlain"), &plain, false);
+    plain.appendChild(underPlain);
+    QCOMPARE(parent.collection(), collection);
+    QCOMPARE(same->collection(), collection);
+    QCOMPARE(other->collection(), otherCollection);
+    QCOMPARE(underPlain->collection(), otherCollection);
+}
+
+void TestFeatureTreeItem::plainItemKeepsDescriptionAndToolTipApart()
+{
+    FeatureTreeItem plain(QStringLiteral("Shown"), m_model.get(), QStringLiteral("Full*Name"), nullptr);
+    // No tool tip set reads as an empty text, not as a null one.
+    QVERIFY(!plain.GetToolTip().isNull());
+    QVERIFY(plain.GetToolTip().isEmpty());
+    QVERIFY(plain.GetDescription().isNull());
+    plain.SetDescription(QStringLiteral("About it"));
+    QVERIFY(!plain.GetToolTip().isNull());
+    QVERIFY(plain.GetToolTip().isEmpty());
+    plain.SetToolTip(QStringLiteral("tip"));
+    QCOMPARE(plain.GetToolTip(), QStringLiteral("tip"));
+    QCOMPARE(plain.GetDescription(), QStringLiteral("About it"));
+    plain.SetToolTip(QString());
+    QVERIFY(plain.GetToolTip().isNull());
+    QCOMPARE(plain.GetDescription(), QStringLiteral("About it"));
+
+    FeatureTreeItem tipFirst(QStringLiteral("Shown"), m_model.get(), QStringLiteral("Other"), nullptr);
+    tipFirst.SetToolTip(QStringLiteral("tip"));
+    QVERIFY(!tipFirst.HasDescription());
+    QVERIFY(tipFirst.GetDescription().isNull());
+    QCOMPARE(tipFirst.GetToolTip(), QStringLiteral("tip"));
 }
 
 QTEST_MAIN(TestFeatureTreeItem)

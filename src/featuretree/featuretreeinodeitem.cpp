@@ -94,7 +94,7 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     : FeatureTreeItem(displayedName, extension, fullName, parent)
     , m_textAsUtf8(textAsUtf8)
     , m_node(std::move(node))
-    , m_collection(std::move(collection))
+    , m_context(contextFor(parent, std::move(collection)))
 {
     initInternal();
 }
@@ -105,7 +105,7 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     : FeatureTreeItem(QString(), extension, fullName, parent)
     , m_textAsUtf8(textAsUtf8)
     , m_node(std::move(node))
-    , m_collection(std::move(collection))
+    , m_context(contextFor(parent, std::move(collection)))
 {
     QString displayName;
     initInternal(&displayName);
@@ -164,7 +164,8 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
         access = m_node->advancedAccess();
         accessKnown = true;
         if (access) {
-            m_unit = access->getProperty(QStringLiteral("Unit"), QString());
+            m_unitOrTitle = access->getProperty(QStringLiteral("Unit"), QString());
+            m_unitLength = -m_unitOrTitle.size();
             m_descriptionText = access->getProperty(QStringLiteral("Description"), QString());
             m_toolTipText = access->getProperty(QStringLiteral("Tooltip"), QString());
             m_docuUrl = access->getProperty(QStringLiteral("DocuURL"), QString());
@@ -278,17 +279,21 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
 
 const QString& FeatureTreeINodeItem::displayText() const
 {
-    if (m_unit.isEmpty())
+    if (m_unitLength == 0)
         return m_displayedName;
-    // Painting and every search pass ask for this text: build it once
-    // per displayed name instead of on every request. The base class tells
-    // when the displayed name was set, so that the check reads no text; the
-    // unit never changes.
-    if (m_displayedNameChanged || m_titleWithUnit.isNull()) {
-        m_titleWithUnit = QStringLiteral("%1 [%2]").arg(m_displayedName, m_unit);
+    // Painting and every search pass ask for this text: build it once per
+    // displayed name instead of on every request. The base class tells when
+    // the displayed name was set, so that the check reads no text; the unit
+    // never changes, and stands at the end of the title built before.
+    if (m_unitLength < 0 || m_displayedNameChanged) {
+        const int length = qAbs(m_unitLength);
+        const QString unit
+            = m_unitLength < 0 ? m_unitOrTitle : m_unitOrTitle.mid(m_unitOrTitle.size() - 1 - length, length);
+        m_unitOrTitle = QStringLiteral("%1 [%2]").arg(m_displayedName, unit);
+        m_unitLength = length;
         m_displayedNameChanged = false;
     }
-    return m_titleWithUnit;
+    return m_unitOrTitle;
 }
 
 QVariant FeatureTreeINodeItem::valueDisplayText() const
@@ -318,8 +323,9 @@ QVariant FeatureTreeINodeItem::toolTip() const
             html = QStringLiteral("<nobr><b>%1</b></nobr>").arg(m_displayedName);
         else
             html = QStringLiteral("<nobr><b>%1 (%2)</b></nobr>").arg(m_displayedName, m_name);
-        if (m_highlighter && m_parameterData->type != TypeCategory)
-            html = m_highlighter->highlightText(html);
+        FeatureTreeHighlighter* const shown = highlighter();
+        if (shown && m_parameterData->type != TypeCategory)
+            html = shown->highlightText(html);
         if (!text.isEmpty())
             html += QStringLiteral("<br><nobr>%1</nobr>").arg(text);
         return html;
@@ -466,7 +472,19 @@ QSharedPointer<const ParameterData> FeatureTreeINodeItem::getParameterData() con
 
 QSharedPointer<IParameterCollection> FeatureTreeINodeItem::collection() const
 {
-    return m_collection;
+    return m_context->collection;
+}
+
+QExplicitlySharedDataPointer<FeatureTreeINodeItem::Context> FeatureTreeINodeItem::contextFor(
+    FeatureTreeItem* parent, QSharedPointer<IParameterCollection> collection)
+{
+    if (const auto* item = dynamic_cast<const FeatureTreeINodeItem*>(parent)) {
+        if (item->m_context->collection == collection)
+            return item->m_context;
+    }
+    QExplicitlySharedDataPointer<Context> context(new Context);
+    context->collection = std::move(collection);
+    return context;
 }
 
 QString FeatureTreeINodeItem::translationContext() const
@@ -478,7 +496,11 @@ QString FeatureTreeINodeItem::translationContext() const
 
 void FeatureTreeINodeItem::setHighlighter(FeatureTreeHighlighter* highlighter)
 {
-    m_highlighter = highlighter;
+    m_highlighterSet = true;
+    if (m_context->highlighter == highlighter)
+        return;
+    m_context.detach();
+    m_context->highlighter = highlighter;
 }
 
 void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> data)
@@ -533,3 +555,8 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         static_cast<FeatureTreeModel*>(m_extension)->onNodeUpdated(itemRow, this);
     emit nodeUpdated(itemRow, this);
 }
+
+// The layout above is chosen for a 176-byte heap block per item; a field added
+// without care would cost every row of the largest trees another 16 bytes.
+static_assert(sizeof(void*) != 8 || sizeof(FeatureTreeINodeItem) <= 168,
+    "FeatureTreeINodeItem outgrew its heap block; see the comment on its fields");

@@ -243,33 +243,38 @@ QString FeatureTreeItem::getFullName() const
     return m_fullName;
 }
 
+FeatureTreeItem::Texts& FeatureTreeItem::texts()
+{
+    if (!m_texts)
+        m_texts.reset(new Texts);
+    return *m_texts;
+}
+
 bool FeatureTreeItem::HasDescription() const
 {
-    return m_description && !m_description->isEmpty();
+    return m_texts && !m_texts->description.isEmpty();
 }
 
 void FeatureTreeItem::SetDescription(QString description)
 {
-    if (!m_description)
-        m_description.reset(new QString);
-    *m_description = std::move(description);
+    texts().description = std::move(description);
 }
 
 QString FeatureTreeItem::GetDescription() const
 {
-    return m_description ? *m_description : QString();
+    return m_texts ? m_texts->description : QString();
 }
 
 void FeatureTreeItem::SetToolTip(const QString& toolTip)
 {
-    if (!m_toolTip)
-        m_toolTip.reset(new QString);
-    *m_toolTip = toolTip;
+    Texts& all = texts();
+    all.toolTip = toolTip;
+    all.hasToolTip = true;
 }
 
 QString FeatureTreeItem::GetToolTip() const
 {
-    return m_toolTip ? *m_toolTip : QString(QLatin1String(""));
+    return m_texts && m_texts->hasToolTip ? m_texts->toolTip : QString(QLatin1String(""));
 }
 
 void FeatureTreeItem::SetIsFullRowItem(bool fullRow)

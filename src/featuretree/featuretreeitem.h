@@ -120,11 +120,29 @@ protected:
     //! The roles every item answers the same way, after the column-specific ones.
     QVariant commonData(int role) const;
 
-    std::unique_ptr<QString> m_description; // created on the first SetDescription
+    // Description and tool tip of a plain item, made on the first
+    // SetDescription or SetToolTip: one pointer in every item instead of two,
+    // since items that stand for a parameter keep their texts elsewhere.
+    struct Texts
+    {
+        QString description;
+        QString toolTip;
+        bool hasToolTip = false;
+    };
+    Texts& texts();
+
+    std::unique_ptr<Texts> m_texts;
     QString m_displayedName;
     qint32 m_visibility = GenApi::_UndefinedVisibility;
+
+private:
+    // Where this item last stood in its parent's list: row() checks it first,
+    // so that asking the row of an item in a wide category stays cheap. (It
+    // sits here, beside the visibility, where it fills what would be padding.)
+    mutable int m_rowHint = -1;
+
+protected:
     QString m_fullName;
-    std::unique_ptr<QString> m_toolTip; // created on the first SetToolTip
     FeatureTreeItem* m_parent; // not owned
     QList<FeatureTreeItem*> m_children; // owned
     qint32 m_editorType = EditorNone;
@@ -135,9 +153,4 @@ protected:
     // built from the name clears it when it builds that text again.
     mutable bool m_displayedNameChanged = true;
     IFeatureTreeModelExtension* m_extension; // not owned
-
-private:
-    // Where this item last stood in its parent's list: row() checks it first,
-    // so that asking the row of an item in a wide category stays cheap.
-    mutable int m_rowHint = -1;
 };
