@@ -65,25 +65,35 @@ template <typename Representation> int editorTypeOfKind(const IParameter& node, 
     }
 }
 
-// The parameter's change signal and the item's slot, looked up once.
+// The method indexes of the parameter's change signal and of the item's slot,
+// looked up once.
 //
-// Items connect by these rather than by member-function pointers or by
-// signature strings. The string form parsed and normalised two signatures for
-// each of the 100 000 items of the largest trees, which was much of the time
-// to build a row; the pointer form gives each connection a slot object of its
-// own, 48 heap bytes a row. A connection by method index has neither.
-const QMetaMethod& parameterChangedSignal()
+// Items connect by these indexes (QMetaObject's index-based connect) rather
+// than by member-function pointers, by QMetaMethod or by signature strings.
+// The string form parses and normalises two signatures for each of the
+// 100 000 items of the largest trees; the QMetaMethod form builds and compares
+// both signatures on every call, a quarter of the time to build a row; the
+// pointer form gives each connection a slot object of its own, 48 heap bytes
+// a row. The index form has none of these costs: the checks the other forms
+// make are made once, here.
+int parameterChangedSignalIndex()
 {
-    static const QMetaMethod signal = QMetaMethod::fromSignal(&IParameter::parameterDataChangedDecoupled);
-    return signal;
+    static const int index = QMetaMethod::fromSignal(&IParameter::parameterDataChangedDecoupled).methodIndex();
+    return index;
 }
 
-const QMetaMethod& itemChangedSlot()
+int itemChangedSlotIndex()
 {
-    static const QMetaMethod slot = FeatureTreeINodeItem::staticMetaObject.method(
-        FeatureTreeINodeItem::staticMetaObject.indexOfSlot(QMetaObject::normalizedSignature(
-            "onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)")));
-    return slot;
+    static const int index = [] {
+        const QMetaObject& meta = FeatureTreeINodeItem::staticMetaObject;
+        const int slot = meta.indexOfSlot(QMetaObject::normalizedSignature(
+            "onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)"));
+        Q_ASSERT(slot >= 0);
+        Q_ASSERT(QMetaObject::checkConnectArgs(
+            QMetaMethod::fromSignal(&IParameter::parameterDataChangedDecoupled), meta.method(slot)));
+        return slot;
+    }();
+    return index;
 }
 
 } // namespace
@@ -132,7 +142,8 @@ void FeatureTreeINodeItem::subscribe()
     // The item is the receiver, so Qt drops the connection, and any change
     // still queued for the item from the parameter layer's own thread, when
     // the item goes.
-    connect(m_node.data(), parameterChangedSignal(), this, itemChangedSlot());
+    QMetaObject::connect(
+        m_node.data(), parameterChangedSignalIndex(), this, itemChangedSlotIndex(), Qt::AutoConnection);
     m_subscribed = true;
 }
 
@@ -141,7 +152,7 @@ void FeatureTreeINodeItem::unsubscribe()
     if (!m_subscribed)
         return;
     m_subscribed = false;
-    disconnect(m_node.data(), parameterChangedSignal(), this, itemChangedSlot());
+    QMetaObject::disconnect(m_node.data(), parameterChangedSignalIndex(), this, itemChangedSlotIndex());
 }
 
 void FeatureTreeINodeItem::initInternal(QString* displayName)
