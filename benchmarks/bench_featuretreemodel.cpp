@@ -55,6 +55,21 @@ int readDisplay(const QAbstractItemModel& model, const QModelIndex& parent)
     return characters;
 }
 
+// The simulation makes its parameter objects on first look-up and frees them
+// with their last user: make them all, to be kept for the whole measurement as
+// a camera's parameter layer holds its own, so that neither model is charged
+// for them.
+QList<QSharedPointer<IParameter>> makeAllParameters(IParameterCollection& collection)
+{
+    QList<QSharedPointer<IParameter>> parameters;
+    QStandardItemModel warmUp;
+    auto* root = new QStandardItem;
+    warmUp.appendRow(root);
+    parameters.append(collection.getParameter(nodeMapName + QStringLiteral("/Root")));
+    fillStandardModel(root, collection, nodeMapName + QStringLiteral("/Root"), &parameters);
+    return parameters;
+}
+
 QString ms(double value)
 {
     return QString::number(value, 'f', value < 10 ? 2 : 1);
@@ -77,14 +92,7 @@ int main(int argc, char** argv)
     if (arguments.size() > 2 && arguments.at(2) == QLatin1String("once")) {
         const QSharedPointer<SimulatedDevice> device = makeDevice(counts.first(), 0, 0);
         const QSharedPointer<IParameterCollection> collection = device->nodeMap(nodeMapName);
-        QList<QSharedPointer<IParameter>> parameters;
-        {
-            QStandardItemModel warmUp;
-            auto* root = new QStandardItem;
-            warmUp.appendRow(root);
-            parameters.append(collection->getParameter(nodeMapName + QStringLiteral("/Root")));
-            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"), &parameters);
-        }
+        const QList<QSharedPointer<IParameter>> parameters = makeAllParameters(*collection);
         const qint64 heapBefore = BenchmarkUtil::heapInUse();
         FeatureTreeModel model;
         model.addParameterCollection(collection, QStringLiteral("Camera"), nodeMapName, false);
@@ -99,18 +107,7 @@ int main(int argc, char** argv)
         const QSharedPointer<SimulatedDevice> device = makeDevice(count, 0, 0);
         const QSharedPointer<IParameterCollection> collection = device->nodeMap(nodeMapName);
 
-        // The simulation makes its parameter objects on first look-up and frees
-        // them with their last user: make them all now and keep them for the
-        // whole measurement, as a camera's parameter layer holds its own, so
-        // that neither model is charged for them.
-        QList<QSharedPointer<IParameter>> parameters;
-        {
-            QStandardItemModel warmUp;
-            auto* root = new QStandardItem;
-            warmUp.appendRow(root);
-            parameters.append(collection->getParameter(nodeMapName + QStringLiteral("/Root")));
-            fillStandardModel(root, *collection, nodeMapName + QStringLiteral("/Root"), &parameters);
-        }
+        const QList<QSharedPointer<IParameter>> parameters = makeAllParameters(*collection);
 
         // Both models are built and read in turns, three times over, and the
         // fastest of each figure is kept: on a shared machine a figure taken
