@@ -182,6 +182,25 @@ private:
     bool m_previous;
 };
 
+// One heap block for the snapshot and its reference count, where
+// QSharedPointer(new T) takes two; every read, poll and new item takes a snapshot.
+template <class T> T* makeSnapshot(QSharedPointer<ParameterData>* data)
+{
+    QSharedPointer<T> made = QSharedPointer<T>::create();
+    T* raw = made.data();
+    *data = std::move(made);
+    return raw;
+}
+
+// QString::number leaves room to spare: "1234.50" comes in a block for 19
+// characters. A snapshot keeps its text as long as an item shows it, so the
+// text gives the room back; shrinking an unshared block is done in place.
+QString compact(QString text)
+{
+    text.squeeze();
+    return text;
+}
+
 bool fitsIncrement(double value, double minimum, double increment)
 {
     if (increment <= 0.0)
@@ -834,8 +853,7 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
     const Scalar& value = valueRef(m, feature);
     switch (kind) {
     case FeatureKind::Integer: {
-        auto* integer = new IntegerParameterData;
-        data.reset(integer);
+        auto* integer = makeSnapshot<IntegerParameterData>(&data);
         integerRange(m, feature, alias, &integer->minimum, &integer->maximum, &integer->increment);
         if (alias) {
             const double f = value.f;
@@ -845,55 +863,63 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
             integer->value = value.i;
             integer->representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
         }
-        integer->valueText = formatInteger(integer->value, integer->representation);
+        integer->valueText = compact(formatInteger(integer->value, integer->representation));
         break;
     }
     case FeatureKind::Float: {
-        auto* real = new FloatParameterData;
-        data.reset(real);
+        auto* real = makeSnapshot<FloatParameterData>(&data);
         floatRange(m, feature, &real->minimum, &real->maximum, &real->hasIncrement, &real->increment);
         real->value = value.f;
         real->precision = d.precision;
-        real->valueText = QString::number(value.f, 'f', d.precision);
+        real->valueText = compact(QString::number(value.f, 'f', d.precision));
         break;
     }
     case FeatureKind::Boolean: {
-        auto* boolean = new BooleanParameterData;
-        data.reset(boolean);
+        auto* boolean = makeSnapshot<BooleanParameterData>(&data);
         boolean->value = value.i != 0;
         boolean->valueText = boolean->value ? QStringLiteral("1") : QStringLiteral("0");
         break;
     }
     case FeatureKind::Command: {
-        auto* command = new CommandParameterData;
-        data.reset(command);
+        auto* command = makeSnapshot<CommandParameterData>(&data);
         command->done = !m.features[size_t(feature)].running;
         command->valueText = QStringLiteral("");
         break;
     }
     case FeatureKind::String:
-        data.reset(new ParameterData);
-        data->valueText = value.s.isNull() ? QStringLiteral("") : value.s;
+        makeSnapshot<ParameterData>(&data)->valueText = value.s.isNull() ? QStringLiteral("") : value.s;
         break;
     case FeatureKind::Enumeration: {
-        auto* enumeration = new EnumParameterData;
-        data.reset(enumeration);
-        const QVector<int> entries = implementedEntries(m, feature);
-        enumeration->symbolicValues.reserve(entries.size());
-        enumeration->displayTexts.reserve(entries.size());
-        for (int e : entries) {
-            const EnumEntryDescription& entry = d.entries.at(e);
-            enumeration->symbolicValues.append(entry.value);
-            enumeration->displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+        auto* enumeration = makeSnapshot<EnumParameterData>(&data);
+        const FeatureExtras* x = m.features[size_t(feature)].extras.get();
+        if (!x || x->entryImplemented.isEmpty()) {
+            // Every entry is implemented whatever the state: the lists never
+            // change, so every snapshot shares one pair instead of copying it.
+            const EnumTexts& texts = enumTexts(m, feature);
+            enumeration->symbolicValues = texts.symbolicValues;
+            enumeration->displayTexts = texts.displayTexts;
+        } else {
+            const QVector<int> entries = implementedEntries(m, feature);
+            enumeration->symbolicValues.reserve(entries.size());
+            enumeration->displayTexts.reserve(entries.size());
+            for (int e : entries) {
+                const EnumEntryDescription& entry = d.entries.at(e);
+                enumeration->symbolicValues.append(entry.value);
+                enumeration->displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+            }
         }
-        const EnumEntryDescription current = d.entries.value(int(value.i));
-        enumeration->intValue = current.numeric;
-        enumeration->valueText = current.value;
+        const int current = int(value.i);
+        if (current >= 0 && current < d.entries.size()) {
+            enumeration->intValue = d.entries.at(current).numeric;
+            enumeration->valueText = d.entries.at(current).value;
+        } else {
+            enumeration->intValue = 0;
+            enumeration->valueText = QString();
+        }
         break;
     }
     case FeatureKind::Category:
-        data.reset(new ParameterData);
-        data->valueText = QStringLiteral("");
+        makeSnapshot<ParameterData>(&data)->valueText = QStringLiteral("");
         break;
     }
     data->type = parameterType(kind);
@@ -906,6 +932,22 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
     if (!access.readable)
         data->valueText = QStringLiteral("");
     return data;
+}
+
+const DeviceState::EnumTexts& DeviceState::enumTexts(NodeMapState& m, int feature)
+{
+    auto it = m.enumTexts.find(feature);
+    if (it != m.enumTexts.end())
+        return *it;
+    const FeatureDescription& d = desc(m, feature);
+    EnumTexts texts;
+    texts.symbolicValues.reserve(d.entries.size());
+    texts.displayTexts.reserve(d.entries.size());
+    for (const EnumEntryDescription& entry : d.entries) {
+        texts.symbolicValues.append(entry.value);
+        texts.displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+    }
+    return *m.enumTexts.insert(feature, texts);
 }
 
 // ============================================================ changes and their signals

@@ -154,6 +154,13 @@ private:
         bool writable = false;
     };
 
+    //! An enumeration's symbolic values and display texts, all entries, shared by its snapshots.
+    struct EnumTexts
+    {
+        QVector<QString> symbolicValues;
+        QVector<QString> displayTexts;
+    };
+
     struct NodeMapState
     {
         QString name;
@@ -165,6 +172,7 @@ private:
         QHash<int, Imposed> imposed; //!< same key
         QVector<int> polled;
         QHash<QPair<int, int>, Scalar> pendingDevice; //!< (feature, selected slot) -> value on the device
+        QHash<int, EnumTexts> enumTexts; //!< made on the first snapshot of an enumeration without entry conditions
     };
 
     struct Fault
@@ -209,6 +217,7 @@ private:
         NodeMapState& m, int feature, double* minimum, double* maximum, bool* hasIncrement, double* increment);
     QVector<int> implementedEntries(NodeMapState& m, int feature);
     QSharedPointer<ParameterCollection::ParameterData> snapshot(NodeMapState& m, int feature, bool alias);
+    const EnumTexts& enumTexts(NodeMapState& m, int feature);
 
     void writeInteger(NodeMapState& m, int feature, bool alias, qint64 value);
     void writeFloat(NodeMapState& m, int feature, double value);
