@@ -329,9 +329,8 @@ bool DeviceState::buildNodeMap(const NodeMapDescription& description, QString* e
         const FeatureDescription& d = description.features.at(i);
         if (d.name.isEmpty() || d.name.contains(QLatin1Char('/')))
             return fail(i, QStringLiteral("name"), QStringLiteral("\"%1\" is not a feature name").arg(d.name));
-        if (m.byName.contains(d.name))
+        if (!m.byName.insert(d.name, i))
             return fail(i, QStringLiteral("name"), QStringLiteral("duplicate name"));
-        m.byName.insert(d.name, i);
         m.features[size_t(i)].excluded = !d.transportTypes.isEmpty() && !d.transportTypes.contains(m_tlType);
     }
     const int root = m.byName.value(QStringLiteral("Root"), -1);
@@ -343,9 +342,13 @@ bool DeviceState::buildNodeMap(const NodeMapDescription& description, QString* e
     // Expressions, selections and children: everything that names another feature.
     for (int i = 0; i < count; ++i) {
         const FeatureDescription& d = description.features.at(i);
+        QVector<int>& children = m.features[size_t(i)].children;
         for (const QString& child : d.children) {
-            if (!m.byName.contains(child))
+            const int index = m.byName.value(child);
+            if (index < 0)
                 return fail(i, QStringLiteral("children"), QStringLiteral("unknown feature \"%1\"").arg(child));
+            if (d.kind == FeatureKind::Category)
+                children.append(index);
         }
         const bool hasExpressions = !d.minimum.expression.isEmpty() || !d.maximum.expression.isEmpty()
             || !d.increment.expression.isEmpty() || !d.readableWhen.isEmpty() || !d.writableWhen.isEmpty()
@@ -1099,7 +1102,7 @@ bool DeviceState::resolve(const NodeMapState& m, const QString& name, int* featu
     }
     if (rest.contains(QLatin1Char('/')))
         return false;
-    const int index = m.byName.value(rest.toString(), -1);
+    const int index = m.byName.value(QStringView(rest.unicode(), rest.size()));
     if (index < 0 || m.features[size_t(index)].excluded)
         return false;
     if (*alias) {
@@ -1136,7 +1139,7 @@ QSharedPointer<IParameter> DeviceState::getParameter(int map, const QString& nam
     const FeatureDescription& d = desc(m, feature);
     const FeatureRef ref { map, feature, alias };
     const QString shortName = alias ? d.name + QStringLiteral("/Alias") : d.name;
-    const QString fullName = m.prefix + shortName;
+    const QString fullName = alias ? fullNameOf(m, feature) + QStringLiteral("/Alias") : fullNameOf(m, feature);
     QSharedPointer<DeviceState> self = sharedFromThis();
     IParameter* object = nullptr;
     switch (alias ? FeatureKind::Integer : d.kind) {
@@ -1191,27 +1194,45 @@ QList<QString> DeviceState::getChildNames(int map, const QString& name, bool rec
     QList<QString> names;
     if (alias)
         return names;
-    QSet<int> visited;
-    std::function<void(int)> collect = [&](int category) {
-        if (visited.contains(category))
-            return;
-        visited.insert(category);
-        const FeatureDescription& d = desc(m, category);
-        if (d.kind != FeatureKind::Category)
-            return;
-        for (const QString& child : d.children) {
-            const int index = m.byName.value(child, -1);
-            if (index < 0 || m.features[size_t(index)].excluded)
-                continue;
-            names.append(m.prefix + child);
-            if (recursive)
-                collect(index);
-        }
-    };
-    collect(feature);
+    if (recursive) {
+        QSet<int> visited;
+        collectChildren(m, feature, true, &visited, &names);
+    } else {
+        // One level visits nothing twice: no set to fill.
+        collectChildren(m, feature, false, nullptr, &names);
+    }
     if (!presentationOrder)
         std::sort(names.begin(), names.end());
     return names;
+}
+
+void DeviceState::collectChildren(
+    NodeMapState& m, int category, bool recursive, QSet<int>* visited, QList<QString>* names)
+{
+    if (visited) {
+        if (visited->contains(category))
+            return;
+        visited->insert(category);
+    }
+    if (desc(m, category).kind != FeatureKind::Category)
+        return;
+    const QVector<int>& children = m.features[size_t(category)].children;
+    names->reserve(names->size() + children.size());
+    for (int child : children) {
+        if (m.features[size_t(child)].excluded)
+            continue;
+        names->append(fullNameOf(m, child));
+        if (recursive)
+            collectChildren(m, child, true, visited, names);
+    }
+}
+
+const QString& DeviceState::fullNameOf(NodeMapState& m, int feature)
+{
+    QString& fullName = m.features[size_t(feature)].fullName;
+    if (fullName.isNull())
+        fullName = m.prefix + desc(m, feature).name;
+    return fullName;
 }
 
 bool DeviceState::applyPending(NodeMapState& m, int feature, QVector<int>* changed)

@@ -2,6 +2,7 @@
 
 #include "devicedescription.h"
 #include "expression.h"
+#include "nameindex.h"
 #include "simulatedfault.h"
 
 #include "parameters/iparameter.h"
@@ -130,6 +131,8 @@ private:
     {
         Scalar value;
         std::unique_ptr<FeatureExtras> extras;
+        QString fullName; //!< prefix + name, made on first need; every name handed out shares it
+        QVector<int> children; //!< Category: the described children, by index
         int runGeneration = 0;
         bool excluded = false; //!< not on this transport layer
         bool running = false; //!< Command
@@ -167,7 +170,7 @@ private:
         QString prefix; //!< name + "/"
         NodeMapDescription description;
         std::vector<FeatureState> features;
-        QHash<QString, int> byName;
+        NameIndex byName;
         QHash<int, ObjectSlot> objects; //!< key: feature * 2 + alias
         QHash<int, Imposed> imposed; //!< same key
         QVector<int> polled;
@@ -236,6 +239,8 @@ private:
     void startCommandTimer(int map, int feature, int generation, int duration);
 
     bool resolve(const NodeMapState& m, const QString& name, int* feature, bool* alias) const;
+    const QString& fullNameOf(NodeMapState& m, int feature);
+    void collectChildren(NodeMapState& m, int category, bool recursive, QSet<int>* visited, QList<QString>* names);
 
     mutable QMutex m_mutex;
     DeviceDescription m_description;
