@@ -866,7 +866,11 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
             integer->value = value.i;
             integer->representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
         }
-        integer->valueText = compact(formatInteger(integer->value, integer->representation));
+        const auto* before = static_cast<const IntegerParameterData*>(lastReadable(m, feature, alias, TypeInteger));
+        if (before && before->value == integer->value && before->representation == integer->representation)
+            integer->valueText = before->valueText;
+        else
+            integer->valueText = compact(formatInteger(integer->value, integer->representation));
         break;
     }
     case FeatureKind::Float: {
@@ -874,7 +878,13 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
         floatRange(m, feature, &real->minimum, &real->maximum, &real->hasIncrement, &real->increment);
         real->value = value.f;
         real->precision = d.precision;
-        real->valueText = compact(QString::number(value.f, 'f', d.precision));
+        // Equal and of the same sign: 0.0 and -0.0 compare equal but may not read the same.
+        const auto* before = static_cast<const FloatParameterData*>(lastReadable(m, feature, alias, TypeFloat));
+        if (before && before->value == real->value && std::signbit(before->value) == std::signbit(real->value)
+            && before->precision == real->precision)
+            real->valueText = before->valueText;
+        else
+            real->valueText = compact(QString::number(value.f, 'f', d.precision));
         break;
     }
     case FeatureKind::Boolean: {
@@ -935,6 +945,20 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
     if (!access.readable)
         data->valueText = QStringLiteral("");
     return data;
+}
+
+const ParameterData* DeviceState::lastReadable(const NodeMapState& m, int feature, bool alias, int type) const
+{
+    // A number is formatted once while it stands: a parameter is read again
+    // and again (its item reads it right after the look-up that queued the
+    // first snapshot), and the text of the last snapshot serves each read,
+    // shared rather than formatted and allocated anew.
+    if (m.objects.isEmpty())
+        return nullptr;
+    auto it = m.objects.constFind(key(feature, alias));
+    if (it == m.objects.constEnd() || !it->last || !it->last->readable || it->last->type != type)
+        return nullptr;
+    return it->last.data();
 }
 
 const DeviceState::EnumTexts& DeviceState::enumTexts(NodeMapState& m, int feature)
@@ -1090,19 +1114,20 @@ void DeviceState::commandFinished(int map, int feature, int generation)
 
 bool DeviceState::resolve(const NodeMapState& m, const QString& name, int* feature, bool* alias) const
 {
-    QStringRef rest(&name);
-    if (name.startsWith(m.prefix))
-        rest = name.midRef(m.prefix.size());
-    else if (name.startsWith(QLatin1Char('@')))
+    QStringView rest(name);
+    if (rest.startsWith(m.prefix))
+        rest = rest.mid(m.prefix.size());
+    else if (rest.startsWith(QLatin1Char('@')))
         return false;
     *alias = false;
-    if (rest.endsWith(QLatin1String("/Alias"))) {
+    // The last letter first, inline: few names end in it.
+    if (rest.endsWith(QLatin1Char('s')) && rest.endsWith(QLatin1String("/Alias"))) {
         *alias = true;
         rest.chop(6);
     }
     if (rest.contains(QLatin1Char('/')))
         return false;
-    const int index = m.byName.value(QStringView(rest.unicode(), rest.size()));
+    const int index = m.byName.value(rest);
     if (index < 0 || m.features[size_t(index)].excluded)
         return false;
     if (*alias) {
@@ -1707,31 +1732,34 @@ QString DeviceState::getProperty(const FeatureRef& ref, const QString& fullName,
         *present = !text.isNull();
         return text;
     };
-    if (property == QLatin1String("DisplayName"))
+    // The lengths first: they tell most keys apart inline, where each full
+    // comparison is a call; an item asks for five properties when it is made.
+    auto is = [&property](QLatin1String name) { return property.size() == name.size() && property == name; };
+    if (is(QLatin1String("DisplayName")))
         return given(d.displayName);
-    if (property == QLatin1String("Description"))
+    if (is(QLatin1String("Description")))
         return given(d.description);
-    if (property == QLatin1String("Tooltip"))
+    if (is(QLatin1String("Tooltip")))
         return given(d.tooltip);
-    if (property == QLatin1String("DocuURL"))
+    if (is(QLatin1String("DocuURL")))
         return given(d.docuUrl);
-    if (property == QLatin1String("Unit"))
+    if (is(QLatin1String("Unit")))
         return given(d.unit);
-    if (property == QLatin1String("Representation")) {
+    if (is(QLatin1String("Representation"))) {
         if (ref.alias)
             return given(QStringLiteral("PureNumber"));
         return given(d.representation.isEmpty() ? QString() : d.representation);
     }
-    if (property == QLatin1String("Visibility"))
+    if (is(QLatin1String("Visibility")))
         return given(visibilityName(visibilityOf(m, ref.feature, ref.alias)));
-    if (property == QLatin1String("AccessMode")) {
+    if (is(QLatin1String("AccessMode"))) {
         const Access a = accessOf(m, ref.feature, ref.alias);
         const GenApi::EAccessMode mode = !a.implemented ? GenApi::NI
             : !a.readable                               ? (a.writable ? GenApi::WO : GenApi::NA)
                                                         : (a.writable ? GenApi::RW : GenApi::RO);
         return given(accessModeName(mode));
     }
-    if (property == QLatin1String("Name"))
+    if (is(QLatin1String("Name")))
         return given(ref.alias ? d.name + QStringLiteral("/Alias") : d.name);
     *present = false;
     return QString();

@@ -221,6 +221,9 @@ private:
     QVector<int> implementedEntries(NodeMapState& m, int feature);
     QSharedPointer<ParameterCollection::ParameterData> snapshot(NodeMapState& m, int feature, bool alias);
     const EnumTexts& enumTexts(NodeMapState& m, int feature);
+    //! The last snapshot queued for the parameter, if readable and of the type; null otherwise.
+    const ParameterCollection::ParameterData* lastReadable(
+        const NodeMapState& m, int feature, bool alias, int type) const;
 
     void writeInteger(NodeMapState& m, int feature, bool alias, qint64 value);
     void writeFloat(NodeMapState& m, int feature, double value);

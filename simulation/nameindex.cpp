@@ -36,10 +36,18 @@ int NameIndex::value(QStringView name, int fallback) const
     return slot.value >= 0 ? slot.value : fallback;
 }
 
+size_t NameIndex::home(uint hash) const
+{
+    // qHash of names that differ only in their last digits differs only in a
+    // few bits, and in a pattern: masking its low bits would pile them up in
+    // runs. Multiplying by 2^64 / phi and taking the high bits spreads them.
+    return size_t((quint64(hash) * 0x9E3779B97F4A7C15ULL) >> m_shift);
+}
+
 size_t NameIndex::find(QStringView name, uint hash) const
 {
     const size_t mask = m_slots.size() - 1;
-    for (size_t i = hash & mask;; i = (i + 1) & mask) {
+    for (size_t i = home(hash);; i = (i + 1) & mask) {
         const Slot& slot = m_slots[i];
         if (slot.value < 0 || (slot.hash == hash && QStringView(slot.name) == name))
             return i;
@@ -51,11 +59,14 @@ void NameIndex::rehash(size_t capacity)
     std::vector<Slot> old;
     old.swap(m_slots);
     m_slots.resize(capacity);
+    m_shift = 64;
+    for (size_t c = capacity; c > 1; c /= 2)
+        --m_shift;
     const size_t mask = capacity - 1;
     for (Slot& slot : old) {
         if (slot.value < 0)
             continue;
-        size_t i = slot.hash & mask;
+        size_t i = home(slot.hash);
         while (m_slots[i].value >= 0)
             i = (i + 1) & mask;
         m_slots[i] = std::move(slot);

@@ -35,10 +35,12 @@ private:
     };
 
     void rehash(size_t capacity);
+    size_t home(uint hash) const;
     size_t find(QStringView name, uint hash) const;
 
     std::vector<Slot> m_slots; //!< a power of two in size, or empty
     int m_count = 0;
+    int m_shift = 64; //!< 64 - log2 of the number of slots
 };
 
 } // namespace Simulation
