@@ -1732,9 +1732,12 @@ QString DeviceState::getProperty(const FeatureRef& ref, const QString& fullName,
         *present = !text.isNull();
         return text;
     };
-    // The lengths first: they tell most keys apart inline, where each full
-    // comparison is a call; an item asks for five properties when it is made.
-    auto is = [&property](QLatin1String name) { return property.size() == name.size() && property == name; };
+    // The length and the last letter tell the keys apart inline, so at most
+    // one full comparison, a call, is made; an item asks for five properties
+    // when it is made.
+    auto is = [&property](QLatin1String name) {
+        return property.size() == name.size() && property.back() == name.back() && property == name;
+    };
     if (is(QLatin1String("DisplayName")))
         return given(d.displayName);
     if (is(QLatin1String("Description")))
