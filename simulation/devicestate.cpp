@@ -201,6 +201,14 @@ QString compact(QString text)
     return text;
 }
 
+// The length and the last letter tell the property keys apart inline, so at
+// most one full comparison, a call, is made per look-up; an item asks for five
+// properties when it is made.
+Q_ALWAYS_INLINE bool isKey(const QString& key, QLatin1String name)
+{
+    return key.size() == name.size() && key.back() == name.back() && key == name;
+}
+
 bool fitsIncrement(double value, double minimum, double increment)
 {
     if (increment <= 0.0)
@@ -1732,37 +1740,31 @@ QString DeviceState::getProperty(const FeatureRef& ref, const QString& fullName,
         *present = !text.isNull();
         return text;
     };
-    // The length and the last letter tell the keys apart inline, so at most
-    // one full comparison, a call, is made; an item asks for five properties
-    // when it is made.
-    auto is = [&property](QLatin1String name) {
-        return property.size() == name.size() && property.back() == name.back() && property == name;
-    };
-    if (is(QLatin1String("DisplayName")))
+    if (isKey(property, QLatin1String("DisplayName")))
         return given(d.displayName);
-    if (is(QLatin1String("Description")))
+    if (isKey(property, QLatin1String("Description")))
         return given(d.description);
-    if (is(QLatin1String("Tooltip")))
+    if (isKey(property, QLatin1String("Tooltip")))
         return given(d.tooltip);
-    if (is(QLatin1String("DocuURL")))
+    if (isKey(property, QLatin1String("DocuURL")))
         return given(d.docuUrl);
-    if (is(QLatin1String("Unit")))
+    if (isKey(property, QLatin1String("Unit")))
         return given(d.unit);
-    if (is(QLatin1String("Representation"))) {
+    if (isKey(property, QLatin1String("Representation"))) {
         if (ref.alias)
             return given(QStringLiteral("PureNumber"));
         return given(d.representation.isEmpty() ? QString() : d.representation);
     }
-    if (is(QLatin1String("Visibility")))
+    if (isKey(property, QLatin1String("Visibility")))
         return given(visibilityName(visibilityOf(m, ref.feature, ref.alias)));
-    if (is(QLatin1String("AccessMode"))) {
+    if (isKey(property, QLatin1String("AccessMode"))) {
         const Access a = accessOf(m, ref.feature, ref.alias);
         const GenApi::EAccessMode mode = !a.implemented ? GenApi::NI
             : !a.readable                               ? (a.writable ? GenApi::WO : GenApi::NA)
                                                         : (a.writable ? GenApi::RW : GenApi::RO);
         return given(accessModeName(mode));
     }
-    if (is(QLatin1String("Name")))
+    if (isKey(property, QLatin1String("Name")))
         return given(ref.alias ? d.name + QStringLiteral("/Alias") : d.name);
     *present = false;
     return QString();
