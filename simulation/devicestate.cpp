@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <stdexcept>
 
@@ -182,14 +183,23 @@ private:
     bool m_previous;
 };
 
-// One heap block for the snapshot and its reference count, where
-// QSharedPointer(new T) takes two; every read, poll and new item takes a snapshot.
-template <class T> T* makeSnapshot(QSharedPointer<ParameterData>* data)
+bool sameBits(double a, double b)
 {
-    QSharedPointer<T> made = QSharedPointer<T>::create();
-    T* raw = made.data();
-    *data = std::move(made);
-    return raw;
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+// Whether b may stand for a: the same to sameSnapshot, and numbers the same
+// to the bit, so that 0.0 doesn't stand for -0.0, nor a NaN for another.
+bool identical(const ParameterData& a, const ParameterData& b)
+{
+    if (!sameSnapshot(a, b))
+        return false;
+    if (a.type != TypeFloat)
+        return true;
+    const auto& x = static_cast<const FloatParameterData&>(a);
+    const auto& y = static_cast<const FloatParameterData&>(b);
+    return sameBits(x.value, y.value) && sameBits(x.minimum, y.minimum) && sameBits(x.maximum, y.maximum)
+        && sameBits(x.increment, y.increment);
 }
 
 // QString::number leaves room to spare: "1234.50" comes in a block for 19
@@ -856,93 +866,104 @@ QVector<int> DeviceState::implementedEntries(NodeMapState& m, int feature)
     return entries;
 }
 
-QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature, bool alias)
+QSharedPointer<const ParameterData> DeviceState::snapshot(NodeMapState& m, int feature, bool alias)
 {
     const FeatureDescription& d = desc(m, feature);
     const FeatureKind kind = alias ? FeatureKind::Integer : d.kind;
-    QSharedPointer<ParameterData> data;
     const Scalar& value = valueRef(m, feature);
+    const QSharedPointer<const ParameterData>* last = lastSnapshot(m, feature, alias);
+    // A number is formatted once while it stands: a parameter is read again
+    // and again (its item reads it right after the look-up that queued the
+    // first snapshot), and the text of the last snapshot serves each read,
+    // shared rather than formatted and allocated anew.
+    const ParameterData* before = last && (*last)->readable ? last->data() : nullptr;
     switch (kind) {
     case FeatureKind::Integer: {
-        auto* integer = makeSnapshot<IntegerParameterData>(&data);
-        integerRange(m, feature, alias, &integer->minimum, &integer->maximum, &integer->increment);
+        IntegerParameterData integer;
+        integerRange(m, feature, alias, &integer.minimum, &integer.maximum, &integer.increment);
         if (alias) {
             const double f = value.f;
-            integer->value = f >= 9.2e18 ? kInt64Max : (f <= -9.2e18 ? kInt64Min : qRound64(f));
-            integer->representation = QStringLiteral("PureNumber");
+            integer.value = f >= 9.2e18 ? kInt64Max : (f <= -9.2e18 ? kInt64Min : qRound64(f));
+            integer.representation = QStringLiteral("PureNumber");
         } else {
-            integer->value = value.i;
-            integer->representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
+            integer.value = value.i;
+            integer.representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
         }
-        const auto* before = static_cast<const IntegerParameterData*>(lastReadable(m, feature, alias, TypeInteger));
-        if (before && before->value == integer->value && before->representation == integer->representation)
-            integer->valueText = before->valueText;
+        const auto* previous
+            = before && before->type == TypeInteger ? static_cast<const IntegerParameterData*>(before) : nullptr;
+        if (previous && previous->value == integer.value && previous->representation == integer.representation)
+            integer.valueText = previous->valueText;
         else
-            integer->valueText = compact(formatInteger(integer->value, integer->representation));
-        break;
+            integer.valueText = compact(formatInteger(integer.value, integer.representation));
+        return publish(integer, m, feature, alias, kind, last);
     }
     case FeatureKind::Float: {
-        auto* real = makeSnapshot<FloatParameterData>(&data);
-        floatRange(m, feature, &real->minimum, &real->maximum, &real->hasIncrement, &real->increment);
-        real->value = value.f;
-        real->precision = d.precision;
-        // Equal and of the same sign: 0.0 and -0.0 compare equal but may not read the same.
-        const auto* before = static_cast<const FloatParameterData*>(lastReadable(m, feature, alias, TypeFloat));
-        if (before && before->value == real->value && std::signbit(before->value) == std::signbit(real->value)
-            && before->precision == real->precision)
-            real->valueText = before->valueText;
+        FloatParameterData real;
+        floatRange(m, feature, &real.minimum, &real.maximum, &real.hasIncrement, &real.increment);
+        real.value = value.f;
+        real.precision = d.precision;
+        const auto* previous
+            = before && before->type == TypeFloat ? static_cast<const FloatParameterData*>(before) : nullptr;
+        if (previous && sameBits(previous->value, real.value) && previous->precision == real.precision)
+            real.valueText = previous->valueText;
         else
-            real->valueText = compact(QString::number(value.f, 'f', d.precision));
-        break;
+            real.valueText = compact(QString::number(value.f, 'f', d.precision));
+        return publish(real, m, feature, alias, kind, last);
     }
     case FeatureKind::Boolean: {
-        auto* boolean = makeSnapshot<BooleanParameterData>(&data);
-        boolean->value = value.i != 0;
-        boolean->valueText = boolean->value ? QStringLiteral("1") : QStringLiteral("0");
-        break;
+        BooleanParameterData boolean;
+        boolean.value = value.i != 0;
+        boolean.valueText = boolean.value ? QStringLiteral("1") : QStringLiteral("0");
+        return publish(boolean, m, feature, alias, kind, last);
     }
     case FeatureKind::Command: {
-        auto* command = makeSnapshot<CommandParameterData>(&data);
-        command->done = !m.features[size_t(feature)].running;
-        command->valueText = QStringLiteral("");
-        break;
+        CommandParameterData command;
+        command.done = !m.features[size_t(feature)].running;
+        command.valueText = QStringLiteral("");
+        return publish(command, m, feature, alias, kind, last);
     }
-    case FeatureKind::String:
-        makeSnapshot<ParameterData>(&data)->valueText = value.s.isNull() ? QStringLiteral("") : value.s;
-        break;
+    case FeatureKind::String: {
+        ParameterData text;
+        text.valueText = value.s.isNull() ? QStringLiteral("") : value.s;
+        return publish(text, m, feature, alias, kind, last);
+    }
     case FeatureKind::Enumeration: {
-        auto* enumeration = makeSnapshot<EnumParameterData>(&data);
+        EnumParameterData enumeration;
         const FeatureExtras* x = m.features[size_t(feature)].extras.get();
         if (!x || x->entryImplemented.isEmpty()) {
             // Every entry is implemented whatever the state: the lists never
             // change, so every snapshot shares one pair instead of copying it.
             const EnumTexts& texts = enumTexts(m, feature);
-            enumeration->symbolicValues = texts.symbolicValues;
-            enumeration->displayTexts = texts.displayTexts;
+            enumeration.symbolicValues = texts.symbolicValues;
+            enumeration.displayTexts = texts.displayTexts;
         } else {
             const QVector<int> entries = implementedEntries(m, feature);
-            enumeration->symbolicValues.reserve(entries.size());
-            enumeration->displayTexts.reserve(entries.size());
+            enumeration.symbolicValues.reserve(entries.size());
+            enumeration.displayTexts.reserve(entries.size());
             for (int e : entries) {
                 const EnumEntryDescription& entry = d.entries.at(e);
-                enumeration->symbolicValues.append(entry.value);
-                enumeration->displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+                enumeration.symbolicValues.append(entry.value);
+                enumeration.displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
             }
         }
         const int current = int(value.i);
         if (current >= 0 && current < d.entries.size()) {
-            enumeration->intValue = d.entries.at(current).numeric;
-            enumeration->valueText = d.entries.at(current).value;
-        } else {
-            enumeration->intValue = 0;
-            enumeration->valueText = QString();
+            enumeration.intValue = d.entries.at(current).numeric;
+            enumeration.valueText = d.entries.at(current).value;
         }
-        break;
+        return publish(enumeration, m, feature, alias, kind, last);
     }
-    case FeatureKind::Category:
-        makeSnapshot<ParameterData>(&data)->valueText = QStringLiteral("");
-        break;
+    case FeatureKind::Category: {
+        ParameterData category;
+        category.valueText = QStringLiteral("");
+        return publish(category, m, feature, alias, kind, last);
     }
+    }
+    return {};
+}
+
+void DeviceState::finish(ParameterData* data, NodeMapState& m, int feature, bool alias, FeatureKind kind)
+{
     data->type = parameterType(kind);
     data->visibility = visibilityOf(m, feature, alias);
     const Access access = accessOf(m, feature, alias);
@@ -952,21 +973,32 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
     data->isPlaceholder = false;
     if (!access.readable)
         data->valueText = QStringLiteral("");
-    return data;
 }
 
-const ParameterData* DeviceState::lastReadable(const NodeMapState& m, int feature, bool alias, int type) const
+template <class T>
+QSharedPointer<const ParameterData> DeviceState::publish(T& data, NodeMapState& m, int feature, bool alias,
+    FeatureKind kind, const QSharedPointer<const ParameterData>* last)
 {
-    // A number is formatted once while it stands: a parameter is read again
-    // and again (its item reads it right after the look-up that queued the
-    // first snapshot), and the text of the last snapshot serves each read,
-    // shared rather than formatted and allocated anew.
+    finish(&data, m, feature, alias, kind);
+    // Nothing has changed since the last snapshot queued: that one serves, and
+    // whoever reads shares it rather than holding a block of its own. A tree
+    // reads every parameter right after the look-up that took its first one.
+    if (last && identical(data, **last))
+        return *last;
+    // One heap block for the snapshot and its reference count, where
+    // QSharedPointer(new T) takes two.
+    return QSharedPointer<T>::create(data);
+}
+
+const QSharedPointer<const ParameterData>* DeviceState::lastSnapshot(
+    const NodeMapState& m, int feature, bool alias) const
+{
     if (m.objects.isEmpty())
         return nullptr;
     auto it = m.objects.constFind(key(feature, alias));
-    if (it == m.objects.constEnd() || !it->last || !it->last->readable || it->last->type != type)
+    if (it == m.objects.constEnd() || !it->last)
         return nullptr;
-    return it->last.data();
+    return &it->last;
 }
 
 const DeviceState::EnumTexts& DeviceState::enumTexts(NodeMapState& m, int feature)

@@ -219,11 +219,17 @@ private:
     void floatRange(
         NodeMapState& m, int feature, double* minimum, double* maximum, bool* hasIncrement, double* increment);
     QVector<int> implementedEntries(NodeMapState& m, int feature);
-    QSharedPointer<ParameterCollection::ParameterData> snapshot(NodeMapState& m, int feature, bool alias);
+    QSharedPointer<const ParameterCollection::ParameterData> snapshot(NodeMapState& m, int feature, bool alias);
+    //! What every kind's snapshot has: kind, visibility and access.
+    void finish(ParameterCollection::ParameterData* data, NodeMapState& m, int feature, bool alias, FeatureKind kind);
+    //! The snapshot made: the last one queued if it reads the same, else a new one.
+    template <class T>
+    QSharedPointer<const ParameterCollection::ParameterData> publish(T& data, NodeMapState& m, int feature, bool alias,
+        FeatureKind kind, const QSharedPointer<const ParameterCollection::ParameterData>* last);
     const EnumTexts& enumTexts(NodeMapState& m, int feature);
-    //! The last snapshot queued for the parameter, if readable and of the type; null otherwise.
-    const ParameterCollection::ParameterData* lastReadable(
-        const NodeMapState& m, int feature, bool alias, int type) const;
+    //! The last snapshot queued for the parameter, null if none.
+    const QSharedPointer<const ParameterCollection::ParameterData>* lastSnapshot(
+        const NodeMapState& m, int feature, bool alias) const;
 
     void writeInteger(NodeMapState& m, int feature, bool alias, qint64 value);
     void writeFloat(NodeMapState& m, int feature, double value);
