@@ -878,86 +878,77 @@ QSharedPointer<const ParameterData> DeviceState::snapshot(NodeMapState& m, int f
     // shared rather than formatted and allocated anew.
     const ParameterData* before = last && (*last)->readable ? last->data() : nullptr;
     switch (kind) {
-    case FeatureKind::Integer: {
-        IntegerParameterData integer;
-        integerRange(m, feature, alias, &integer.minimum, &integer.maximum, &integer.increment);
-        if (alias) {
-            const double f = value.f;
-            integer.value = f >= 9.2e18 ? kInt64Max : (f <= -9.2e18 ? kInt64Min : qRound64(f));
-            integer.representation = QStringLiteral("PureNumber");
-        } else {
-            integer.value = value.i;
-            integer.representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
-        }
-        const auto* previous
-            = before && before->type == TypeInteger ? static_cast<const IntegerParameterData*>(before) : nullptr;
-        if (previous && previous->value == integer.value && previous->representation == integer.representation)
-            integer.valueText = previous->valueText;
-        else
-            integer.valueText = compact(formatInteger(integer.value, integer.representation));
-        return publish(integer, m, feature, alias, kind, last);
-    }
-    case FeatureKind::Float: {
-        FloatParameterData real;
-        floatRange(m, feature, &real.minimum, &real.maximum, &real.hasIncrement, &real.increment);
-        real.value = value.f;
-        real.precision = d.precision;
-        const auto* previous
-            = before && before->type == TypeFloat ? static_cast<const FloatParameterData*>(before) : nullptr;
-        if (previous && sameBits(previous->value, real.value) && previous->precision == real.precision)
-            real.valueText = previous->valueText;
-        else
-            real.valueText = compact(QString::number(value.f, 'f', d.precision));
-        return publish(real, m, feature, alias, kind, last);
-    }
-    case FeatureKind::Boolean: {
-        BooleanParameterData boolean;
-        boolean.value = value.i != 0;
-        boolean.valueText = boolean.value ? QStringLiteral("1") : QStringLiteral("0");
-        return publish(boolean, m, feature, alias, kind, last);
-    }
-    case FeatureKind::Command: {
-        CommandParameterData command;
-        command.done = !m.features[size_t(feature)].running;
-        command.valueText = QStringLiteral("");
-        return publish(command, m, feature, alias, kind, last);
-    }
-    case FeatureKind::String: {
-        ParameterData text;
-        text.valueText = value.s.isNull() ? QStringLiteral("") : value.s;
-        return publish(text, m, feature, alias, kind, last);
-    }
-    case FeatureKind::Enumeration: {
-        EnumParameterData enumeration;
-        const FeatureExtras* x = m.features[size_t(feature)].extras.get();
-        if (!x || x->entryImplemented.isEmpty()) {
-            // Every entry is implemented whatever the state: the lists never
-            // change, so every snapshot shares one pair instead of copying it.
-            const EnumTexts& texts = enumTexts(m, feature);
-            enumeration.symbolicValues = texts.symbolicValues;
-            enumeration.displayTexts = texts.displayTexts;
-        } else {
-            const QVector<int> entries = implementedEntries(m, feature);
-            enumeration.symbolicValues.reserve(entries.size());
-            enumeration.displayTexts.reserve(entries.size());
-            for (int e : entries) {
-                const EnumEntryDescription& entry = d.entries.at(e);
-                enumeration.symbolicValues.append(entry.value);
-                enumeration.displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+    case FeatureKind::Integer:
+        return publish<IntegerParameterData>(m, feature, alias, kind, last, [&](IntegerParameterData& integer) {
+            integerRange(m, feature, alias, &integer.minimum, &integer.maximum, &integer.increment);
+            if (alias) {
+                const double f = value.f;
+                integer.value = f >= 9.2e18 ? kInt64Max : (f <= -9.2e18 ? kInt64Min : qRound64(f));
+                integer.representation = QStringLiteral("PureNumber");
+            } else {
+                integer.value = value.i;
+                integer.representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
             }
-        }
-        const int current = int(value.i);
-        if (current >= 0 && current < d.entries.size()) {
-            enumeration.intValue = d.entries.at(current).numeric;
-            enumeration.valueText = d.entries.at(current).value;
-        }
-        return publish(enumeration, m, feature, alias, kind, last);
-    }
-    case FeatureKind::Category: {
-        ParameterData category;
-        category.valueText = QStringLiteral("");
-        return publish(category, m, feature, alias, kind, last);
-    }
+            const auto* previous
+                = before && before->type == TypeInteger ? static_cast<const IntegerParameterData*>(before) : nullptr;
+            if (previous && previous->value == integer.value && previous->representation == integer.representation)
+                integer.valueText = previous->valueText;
+            else
+                integer.valueText = compact(formatInteger(integer.value, integer.representation));
+        });
+    case FeatureKind::Float:
+        return publish<FloatParameterData>(m, feature, alias, kind, last, [&](FloatParameterData& real) {
+            floatRange(m, feature, &real.minimum, &real.maximum, &real.hasIncrement, &real.increment);
+            real.value = value.f;
+            real.precision = d.precision;
+            const auto* previous
+                = before && before->type == TypeFloat ? static_cast<const FloatParameterData*>(before) : nullptr;
+            if (previous && sameBits(previous->value, real.value) && previous->precision == real.precision)
+                real.valueText = previous->valueText;
+            else
+                real.valueText = compact(QString::number(value.f, 'f', d.precision));
+        });
+    case FeatureKind::Boolean:
+        return publish<BooleanParameterData>(m, feature, alias, kind, last, [&](BooleanParameterData& boolean) {
+            boolean.value = value.i != 0;
+            boolean.valueText = boolean.value ? QStringLiteral("1") : QStringLiteral("0");
+        });
+    case FeatureKind::Command:
+        return publish<CommandParameterData>(m, feature, alias, kind, last, [&](CommandParameterData& command) {
+            command.done = !m.features[size_t(feature)].running;
+            command.valueText = QStringLiteral("");
+        });
+    case FeatureKind::String:
+        return publish<ParameterData>(m, feature, alias, kind, last,
+            [&](ParameterData& text) { text.valueText = value.s.isNull() ? QStringLiteral("") : value.s; });
+    case FeatureKind::Enumeration:
+        return publish<EnumParameterData>(m, feature, alias, kind, last, [&](EnumParameterData& enumeration) {
+            const FeatureExtras* x = m.features[size_t(feature)].extras.get();
+            if (!x || x->entryImplemented.isEmpty()) {
+                // Every entry is implemented whatever the state: the lists never
+                // change, so every snapshot shares one pair instead of copying it.
+                const EnumTexts& texts = enumTexts(m, feature);
+                enumeration.symbolicValues = texts.symbolicValues;
+                enumeration.displayTexts = texts.displayTexts;
+            } else {
+                const QVector<int> entries = implementedEntries(m, feature);
+                enumeration.symbolicValues.reserve(entries.size());
+                enumeration.displayTexts.reserve(entries.size());
+                for (int e : entries) {
+                    const EnumEntryDescription& entry = d.entries.at(e);
+                    enumeration.symbolicValues.append(entry.value);
+                    enumeration.displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+                }
+            }
+            const int current = int(value.i);
+            if (current >= 0 && current < d.entries.size()) {
+                enumeration.intValue = d.entries.at(current).numeric;
+                enumeration.valueText = d.entries.at(current).value;
+            }
+        });
+    case FeatureKind::Category:
+        return publish<ParameterData>(
+            m, feature, alias, kind, last, [](ParameterData& category) { category.valueText = QStringLiteral(""); });
     }
     return {};
 }
@@ -975,18 +966,26 @@ void DeviceState::finish(ParameterData* data, NodeMapState& m, int feature, bool
         data->valueText = QStringLiteral("");
 }
 
-template <class T>
-QSharedPointer<const ParameterData> DeviceState::publish(T& data, NodeMapState& m, int feature, bool alias,
-    FeatureKind kind, const QSharedPointer<const ParameterData>* last)
+template <class T, class Fill>
+QSharedPointer<const ParameterData> DeviceState::publish(NodeMapState& m, int feature, bool alias, FeatureKind kind,
+    const QSharedPointer<const ParameterData>* last, const Fill& fill)
 {
+    if (!last) {
+        // Nothing to compare with: made in its block, one for the snapshot
+        // and its reference count, where QSharedPointer(new T) takes two.
+        QSharedPointer<T> data = QSharedPointer<T>::create();
+        fill(*data);
+        finish(data.data(), m, feature, alias, kind);
+        return data;
+    }
+    T data;
+    fill(data);
     finish(&data, m, feature, alias, kind);
     // Nothing has changed since the last snapshot queued: that one serves, and
     // whoever reads shares it rather than holding a block of its own. A tree
     // reads every parameter right after the look-up that took its first one.
-    if (last && identical(data, **last))
+    if (identical(data, **last))
         return *last;
-    // One heap block for the snapshot and its reference count, where
-    // QSharedPointer(new T) takes two.
     return QSharedPointer<T>::create(data);
 }
 

@@ -222,10 +222,10 @@ private:
     QSharedPointer<const ParameterCollection::ParameterData> snapshot(NodeMapState& m, int feature, bool alias);
     //! What every kind's snapshot has: kind, visibility and access.
     void finish(ParameterCollection::ParameterData* data, NodeMapState& m, int feature, bool alias, FeatureKind kind);
-    //! The snapshot made: the last one queued if it reads the same, else a new one.
-    template <class T>
-    QSharedPointer<const ParameterCollection::ParameterData> publish(T& data, NodeMapState& m, int feature, bool alias,
-        FeatureKind kind, const QSharedPointer<const ParameterCollection::ParameterData>* last);
+    //! The snapshot fill makes: the last one queued if it reads the same, else a new one.
+    template <class T, class Fill>
+    QSharedPointer<const ParameterCollection::ParameterData> publish(NodeMapState& m, int feature, bool alias,
+        FeatureKind kind, const QSharedPointer<const ParameterCollection::ParameterData>* last, const Fill& fill);
     const EnumTexts& enumTexts(NodeMapState& m, int feature);
     //! The last snapshot queued for the parameter, null if none.
     const QSharedPointer<const ParameterCollection::ParameterData>* lastSnapshot(
