@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <stdexcept>
 
@@ -182,6 +183,42 @@ private:
     bool m_previous;
 };
 
+bool sameBits(double a, double b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+// Whether b may stand for a: the same to sameSnapshot, and numbers the same
+// to the bit, so that 0.0 doesn't stand for -0.0, nor a NaN for another.
+bool identical(const ParameterData& a, const ParameterData& b)
+{
+    if (!sameSnapshot(a, b))
+        return false;
+    if (a.type != TypeFloat)
+        return true;
+    const auto& x = static_cast<const FloatParameterData&>(a);
+    const auto& y = static_cast<const FloatParameterData&>(b);
+    return sameBits(x.value, y.value) && sameBits(x.minimum, y.minimum) && sameBits(x.maximum, y.maximum)
+        && sameBits(x.increment, y.increment);
+}
+
+// QString::number leaves room to spare: "1234.50" comes in a block for 19
+// characters. A snapshot keeps its text as long as an item shows it, so the
+// text gives the room back; shrinking an unshared block is done in place.
+QString compact(QString text)
+{
+    text.squeeze();
+    return text;
+}
+
+// The length and the last letter tell the property keys apart inline, so at
+// most one full comparison, a call, is made per look-up; an item asks for five
+// properties when it is made.
+Q_ALWAYS_INLINE bool isKey(const QString& key, QLatin1String name)
+{
+    return key.size() == name.size() && key.back() == name.back() && key == name;
+}
+
 bool fitsIncrement(double value, double minimum, double increment)
 {
     if (increment <= 0.0)
@@ -310,9 +347,8 @@ bool DeviceState::buildNodeMap(const NodeMapDescription& description, QString* e
         const FeatureDescription& d = description.features.at(i);
         if (d.name.isEmpty() || d.name.contains(QLatin1Char('/')))
             return fail(i, QStringLiteral("name"), QStringLiteral("\"%1\" is not a feature name").arg(d.name));
-        if (m.byName.contains(d.name))
+        if (!m.byName.insert(d.name, i))
             return fail(i, QStringLiteral("name"), QStringLiteral("duplicate name"));
-        m.byName.insert(d.name, i);
         m.features[size_t(i)].excluded = !d.transportTypes.isEmpty() && !d.transportTypes.contains(m_tlType);
     }
     const int root = m.byName.value(QStringLiteral("Root"), -1);
@@ -324,9 +360,13 @@ bool DeviceState::buildNodeMap(const NodeMapDescription& description, QString* e
     // Expressions, selections and children: everything that names another feature.
     for (int i = 0; i < count; ++i) {
         const FeatureDescription& d = description.features.at(i);
+        QVector<int>& children = m.features[size_t(i)].children;
         for (const QString& child : d.children) {
-            if (!m.byName.contains(child))
+            const int index = m.byName.value(child);
+            if (index < 0)
                 return fail(i, QStringLiteral("children"), QStringLiteral("unknown feature \"%1\"").arg(child));
+            if (d.kind == FeatureKind::Category)
+                children.append(index);
         }
         const bool hasExpressions = !d.minimum.expression.isEmpty() || !d.maximum.expression.isEmpty()
             || !d.increment.expression.isEmpty() || !d.readableWhen.isEmpty() || !d.writableWhen.isEmpty()
@@ -826,76 +866,95 @@ QVector<int> DeviceState::implementedEntries(NodeMapState& m, int feature)
     return entries;
 }
 
-QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature, bool alias)
+QSharedPointer<const ParameterData> DeviceState::snapshot(NodeMapState& m, int feature, bool alias)
 {
     const FeatureDescription& d = desc(m, feature);
     const FeatureKind kind = alias ? FeatureKind::Integer : d.kind;
-    QSharedPointer<ParameterData> data;
     const Scalar& value = valueRef(m, feature);
+    const QSharedPointer<const ParameterData>* last = lastSnapshot(m, feature, alias);
+    // A number is formatted once while it stands: a parameter is read again
+    // and again (its item reads it right after the look-up that queued the
+    // first snapshot), and the text of the last snapshot serves each read,
+    // shared rather than formatted and allocated anew.
+    const ParameterData* before = last && (*last)->readable ? last->data() : nullptr;
     switch (kind) {
-    case FeatureKind::Integer: {
-        auto* integer = new IntegerParameterData;
-        data.reset(integer);
-        integerRange(m, feature, alias, &integer->minimum, &integer->maximum, &integer->increment);
-        if (alias) {
-            const double f = value.f;
-            integer->value = f >= 9.2e18 ? kInt64Max : (f <= -9.2e18 ? kInt64Min : qRound64(f));
-            integer->representation = QStringLiteral("PureNumber");
-        } else {
-            integer->value = value.i;
-            integer->representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
-        }
-        integer->valueText = formatInteger(integer->value, integer->representation);
-        break;
-    }
-    case FeatureKind::Float: {
-        auto* real = new FloatParameterData;
-        data.reset(real);
-        floatRange(m, feature, &real->minimum, &real->maximum, &real->hasIncrement, &real->increment);
-        real->value = value.f;
-        real->precision = d.precision;
-        real->valueText = QString::number(value.f, 'f', d.precision);
-        break;
-    }
-    case FeatureKind::Boolean: {
-        auto* boolean = new BooleanParameterData;
-        data.reset(boolean);
-        boolean->value = value.i != 0;
-        boolean->valueText = boolean->value ? QStringLiteral("1") : QStringLiteral("0");
-        break;
-    }
-    case FeatureKind::Command: {
-        auto* command = new CommandParameterData;
-        data.reset(command);
-        command->done = !m.features[size_t(feature)].running;
-        command->valueText = QStringLiteral("");
-        break;
-    }
+    case FeatureKind::Integer:
+        return publish<IntegerParameterData>(m, feature, alias, kind, last, [&](IntegerParameterData& integer) {
+            integerRange(m, feature, alias, &integer.minimum, &integer.maximum, &integer.increment);
+            if (alias) {
+                const double f = value.f;
+                integer.value = f >= 9.2e18 ? kInt64Max : (f <= -9.2e18 ? kInt64Min : qRound64(f));
+                integer.representation = QStringLiteral("PureNumber");
+            } else {
+                integer.value = value.i;
+                integer.representation = d.representation.isEmpty() ? QStringLiteral("PureNumber") : d.representation;
+            }
+            const auto* previous
+                = before && before->type == TypeInteger ? static_cast<const IntegerParameterData*>(before) : nullptr;
+            if (previous && previous->value == integer.value && previous->representation == integer.representation)
+                integer.valueText = previous->valueText;
+            else
+                integer.valueText = compact(formatInteger(integer.value, integer.representation));
+        });
+    case FeatureKind::Float:
+        return publish<FloatParameterData>(m, feature, alias, kind, last, [&](FloatParameterData& real) {
+            floatRange(m, feature, &real.minimum, &real.maximum, &real.hasIncrement, &real.increment);
+            real.value = value.f;
+            real.precision = d.precision;
+            const auto* previous
+                = before && before->type == TypeFloat ? static_cast<const FloatParameterData*>(before) : nullptr;
+            if (previous && sameBits(previous->value, real.value) && previous->precision == real.precision)
+                real.valueText = previous->valueText;
+            else
+                real.valueText = compact(QString::number(value.f, 'f', d.precision));
+        });
+    case FeatureKind::Boolean:
+        return publish<BooleanParameterData>(m, feature, alias, kind, last, [&](BooleanParameterData& boolean) {
+            boolean.value = value.i != 0;
+            boolean.valueText = boolean.value ? QStringLiteral("1") : QStringLiteral("0");
+        });
+    case FeatureKind::Command:
+        return publish<CommandParameterData>(m, feature, alias, kind, last, [&](CommandParameterData& command) {
+            command.done = !m.features[size_t(feature)].running;
+            command.valueText = QStringLiteral("");
+        });
     case FeatureKind::String:
-        data.reset(new ParameterData);
-        data->valueText = value.s.isNull() ? QStringLiteral("") : value.s;
-        break;
-    case FeatureKind::Enumeration: {
-        auto* enumeration = new EnumParameterData;
-        data.reset(enumeration);
-        const QVector<int> entries = implementedEntries(m, feature);
-        enumeration->symbolicValues.reserve(entries.size());
-        enumeration->displayTexts.reserve(entries.size());
-        for (int e : entries) {
-            const EnumEntryDescription& entry = d.entries.at(e);
-            enumeration->symbolicValues.append(entry.value);
-            enumeration->displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
-        }
-        const EnumEntryDescription current = d.entries.value(int(value.i));
-        enumeration->intValue = current.numeric;
-        enumeration->valueText = current.value;
-        break;
-    }
+        return publish<ParameterData>(m, feature, alias, kind, last,
+            [&](ParameterData& text) { text.valueText = value.s.isNull() ? QStringLiteral("") : value.s; });
+    case FeatureKind::Enumeration:
+        return publish<EnumParameterData>(m, feature, alias, kind, last, [&](EnumParameterData& enumeration) {
+            const FeatureExtras* x = m.features[size_t(feature)].extras.get();
+            if (!x || x->entryImplemented.isEmpty()) {
+                // Every entry is implemented whatever the state: the lists never
+                // change, so every snapshot shares one pair instead of copying it.
+                const EnumTexts& texts = enumTexts(m, feature);
+                enumeration.symbolicValues = texts.symbolicValues;
+                enumeration.displayTexts = texts.displayTexts;
+            } else {
+                const QVector<int> entries = implementedEntries(m, feature);
+                enumeration.symbolicValues.reserve(entries.size());
+                enumeration.displayTexts.reserve(entries.size());
+                for (int e : entries) {
+                    const EnumEntryDescription& entry = d.entries.at(e);
+                    enumeration.symbolicValues.append(entry.value);
+                    enumeration.displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+                }
+            }
+            const int current = int(value.i);
+            if (current >= 0 && current < d.entries.size()) {
+                enumeration.intValue = d.entries.at(current).numeric;
+                enumeration.valueText = d.entries.at(current).value;
+            }
+        });
     case FeatureKind::Category:
-        data.reset(new ParameterData);
-        data->valueText = QStringLiteral("");
-        break;
+        return publish<ParameterData>(
+            m, feature, alias, kind, last, [](ParameterData& category) { category.valueText = QStringLiteral(""); });
     }
+    return {};
+}
+
+void DeviceState::finish(ParameterData* data, NodeMapState& m, int feature, bool alias, FeatureKind kind)
+{
     data->type = parameterType(kind);
     data->visibility = visibilityOf(m, feature, alias);
     const Access access = accessOf(m, feature, alias);
@@ -905,7 +964,56 @@ QSharedPointer<ParameterData> DeviceState::snapshot(NodeMapState& m, int feature
     data->isPlaceholder = false;
     if (!access.readable)
         data->valueText = QStringLiteral("");
-    return data;
+}
+
+template <class T, class Fill>
+QSharedPointer<const ParameterData> DeviceState::publish(NodeMapState& m, int feature, bool alias, FeatureKind kind,
+    const QSharedPointer<const ParameterData>* last, const Fill& fill)
+{
+    if (!last) {
+        // Nothing to compare with: made in its block, one for the snapshot
+        // and its reference count, where QSharedPointer(new T) takes two.
+        QSharedPointer<T> data = QSharedPointer<T>::create();
+        fill(*data);
+        finish(data.data(), m, feature, alias, kind);
+        return data;
+    }
+    T data;
+    fill(data);
+    finish(&data, m, feature, alias, kind);
+    // Nothing has changed since the last snapshot queued: that one serves, and
+    // whoever reads shares it rather than holding a block of its own. A tree
+    // reads every parameter right after the look-up that took its first one.
+    if (identical(data, **last))
+        return *last;
+    return QSharedPointer<T>::create(data);
+}
+
+const QSharedPointer<const ParameterData>* DeviceState::lastSnapshot(
+    const NodeMapState& m, int feature, bool alias) const
+{
+    if (m.objects.isEmpty())
+        return nullptr;
+    auto it = m.objects.constFind(key(feature, alias));
+    if (it == m.objects.constEnd() || !it->last)
+        return nullptr;
+    return &it->last;
+}
+
+const DeviceState::EnumTexts& DeviceState::enumTexts(NodeMapState& m, int feature)
+{
+    auto it = m.enumTexts.find(feature);
+    if (it != m.enumTexts.end())
+        return *it;
+    const FeatureDescription& d = desc(m, feature);
+    EnumTexts texts;
+    texts.symbolicValues.reserve(d.entries.size());
+    texts.displayTexts.reserve(d.entries.size());
+    for (const EnumEntryDescription& entry : d.entries) {
+        texts.symbolicValues.append(entry.value);
+        texts.displayTexts.append(entry.displayName.isNull() ? entry.value : entry.displayName);
+    }
+    return *m.enumTexts.insert(feature, texts);
 }
 
 // ============================================================ changes and their signals
@@ -1045,19 +1153,20 @@ void DeviceState::commandFinished(int map, int feature, int generation)
 
 bool DeviceState::resolve(const NodeMapState& m, const QString& name, int* feature, bool* alias) const
 {
-    QStringRef rest(&name);
-    if (name.startsWith(m.prefix))
-        rest = name.midRef(m.prefix.size());
-    else if (name.startsWith(QLatin1Char('@')))
+    QStringView rest(name);
+    if (rest.startsWith(m.prefix))
+        rest = rest.mid(m.prefix.size());
+    else if (rest.startsWith(QLatin1Char('@')))
         return false;
     *alias = false;
-    if (rest.endsWith(QLatin1String("/Alias"))) {
+    // The last letter first, inline: few names end in it.
+    if (rest.endsWith(QLatin1Char('s')) && rest.endsWith(QLatin1String("/Alias"))) {
         *alias = true;
         rest.chop(6);
     }
     if (rest.contains(QLatin1Char('/')))
         return false;
-    const int index = m.byName.value(rest.toString(), -1);
+    const int index = m.byName.value(rest);
     if (index < 0 || m.features[size_t(index)].excluded)
         return false;
     if (*alias) {
@@ -1094,7 +1203,7 @@ QSharedPointer<IParameter> DeviceState::getParameter(int map, const QString& nam
     const FeatureDescription& d = desc(m, feature);
     const FeatureRef ref { map, feature, alias };
     const QString shortName = alias ? d.name + QStringLiteral("/Alias") : d.name;
-    const QString fullName = m.prefix + shortName;
+    const QString fullName = alias ? fullNameOf(m, feature) + QStringLiteral("/Alias") : fullNameOf(m, feature);
     QSharedPointer<DeviceState> self = sharedFromThis();
     IParameter* object = nullptr;
     switch (alias ? FeatureKind::Integer : d.kind) {
@@ -1149,27 +1258,45 @@ QList<QString> DeviceState::getChildNames(int map, const QString& name, bool rec
     QList<QString> names;
     if (alias)
         return names;
-    QSet<int> visited;
-    std::function<void(int)> collect = [&](int category) {
-        if (visited.contains(category))
-            return;
-        visited.insert(category);
-        const FeatureDescription& d = desc(m, category);
-        if (d.kind != FeatureKind::Category)
-            return;
-        for (const QString& child : d.children) {
-            const int index = m.byName.value(child, -1);
-            if (index < 0 || m.features[size_t(index)].excluded)
-                continue;
-            names.append(m.prefix + child);
-            if (recursive)
-                collect(index);
-        }
-    };
-    collect(feature);
+    if (recursive) {
+        QSet<int> visited;
+        collectChildren(m, feature, true, &visited, &names);
+    } else {
+        // One level visits nothing twice: no set to fill.
+        collectChildren(m, feature, false, nullptr, &names);
+    }
     if (!presentationOrder)
         std::sort(names.begin(), names.end());
     return names;
+}
+
+void DeviceState::collectChildren(
+    NodeMapState& m, int category, bool recursive, QSet<int>* visited, QList<QString>* names)
+{
+    if (visited) {
+        if (visited->contains(category))
+            return;
+        visited->insert(category);
+    }
+    if (desc(m, category).kind != FeatureKind::Category)
+        return;
+    const QVector<int>& children = m.features[size_t(category)].children;
+    names->reserve(names->size() + children.size());
+    for (int child : children) {
+        if (m.features[size_t(child)].excluded)
+            continue;
+        names->append(fullNameOf(m, child));
+        if (recursive)
+            collectChildren(m, child, true, visited, names);
+    }
+}
+
+const QString& DeviceState::fullNameOf(NodeMapState& m, int feature)
+{
+    QString& fullName = m.features[size_t(feature)].fullName;
+    if (fullName.isNull())
+        fullName = m.prefix + desc(m, feature).name;
+    return fullName;
 }
 
 bool DeviceState::applyPending(NodeMapState& m, int feature, QVector<int>* changed)
@@ -1644,31 +1771,31 @@ QString DeviceState::getProperty(const FeatureRef& ref, const QString& fullName,
         *present = !text.isNull();
         return text;
     };
-    if (property == QLatin1String("DisplayName"))
+    if (isKey(property, QLatin1String("DisplayName")))
         return given(d.displayName);
-    if (property == QLatin1String("Description"))
+    if (isKey(property, QLatin1String("Description")))
         return given(d.description);
-    if (property == QLatin1String("Tooltip"))
+    if (isKey(property, QLatin1String("Tooltip")))
         return given(d.tooltip);
-    if (property == QLatin1String("DocuURL"))
+    if (isKey(property, QLatin1String("DocuURL")))
         return given(d.docuUrl);
-    if (property == QLatin1String("Unit"))
+    if (isKey(property, QLatin1String("Unit")))
         return given(d.unit);
-    if (property == QLatin1String("Representation")) {
+    if (isKey(property, QLatin1String("Representation"))) {
         if (ref.alias)
             return given(QStringLiteral("PureNumber"));
         return given(d.representation.isEmpty() ? QString() : d.representation);
     }
-    if (property == QLatin1String("Visibility"))
+    if (isKey(property, QLatin1String("Visibility")))
         return given(visibilityName(visibilityOf(m, ref.feature, ref.alias)));
-    if (property == QLatin1String("AccessMode")) {
+    if (isKey(property, QLatin1String("AccessMode"))) {
         const Access a = accessOf(m, ref.feature, ref.alias);
         const GenApi::EAccessMode mode = !a.implemented ? GenApi::NI
             : !a.readable                               ? (a.writable ? GenApi::WO : GenApi::NA)
                                                         : (a.writable ? GenApi::RW : GenApi::RO);
         return given(accessModeName(mode));
     }
-    if (property == QLatin1String("Name"))
+    if (isKey(property, QLatin1String("Name")))
         return given(ref.alias ? d.name + QStringLiteral("/Alias") : d.name);
     *present = false;
     return QString();

@@ -2,6 +2,7 @@
 
 #include "devicedescription.h"
 #include "expression.h"
+#include "nameindex.h"
 #include "simulatedfault.h"
 
 #include "parameters/iparameter.h"
@@ -130,6 +131,8 @@ private:
     {
         Scalar value;
         std::unique_ptr<FeatureExtras> extras;
+        QString fullName; //!< prefix + name, made on first need; every name handed out shares it
+        QVector<int> children; //!< Category: the described children, by index
         int runGeneration = 0;
         bool excluded = false; //!< not on this transport layer
         bool running = false; //!< Command
@@ -154,17 +157,25 @@ private:
         bool writable = false;
     };
 
+    //! An enumeration's symbolic values and display texts, all entries, shared by its snapshots.
+    struct EnumTexts
+    {
+        QVector<QString> symbolicValues;
+        QVector<QString> displayTexts;
+    };
+
     struct NodeMapState
     {
         QString name;
         QString prefix; //!< name + "/"
         NodeMapDescription description;
         std::vector<FeatureState> features;
-        QHash<QString, int> byName;
+        NameIndex byName;
         QHash<int, ObjectSlot> objects; //!< key: feature * 2 + alias
         QHash<int, Imposed> imposed; //!< same key
         QVector<int> polled;
         QHash<QPair<int, int>, Scalar> pendingDevice; //!< (feature, selected slot) -> value on the device
+        QHash<int, EnumTexts> enumTexts; //!< made on the first snapshot of an enumeration without entry conditions
     };
 
     struct Fault
@@ -208,7 +219,17 @@ private:
     void floatRange(
         NodeMapState& m, int feature, double* minimum, double* maximum, bool* hasIncrement, double* increment);
     QVector<int> implementedEntries(NodeMapState& m, int feature);
-    QSharedPointer<ParameterCollection::ParameterData> snapshot(NodeMapState& m, int feature, bool alias);
+    QSharedPointer<const ParameterCollection::ParameterData> snapshot(NodeMapState& m, int feature, bool alias);
+    //! What every kind's snapshot has: kind, visibility and access.
+    void finish(ParameterCollection::ParameterData* data, NodeMapState& m, int feature, bool alias, FeatureKind kind);
+    //! The snapshot fill makes: the last one queued if it reads the same, else a new one.
+    template <class T, class Fill>
+    QSharedPointer<const ParameterCollection::ParameterData> publish(NodeMapState& m, int feature, bool alias,
+        FeatureKind kind, const QSharedPointer<const ParameterCollection::ParameterData>* last, const Fill& fill);
+    const EnumTexts& enumTexts(NodeMapState& m, int feature);
+    //! The last snapshot queued for the parameter, null if none.
+    const QSharedPointer<const ParameterCollection::ParameterData>* lastSnapshot(
+        const NodeMapState& m, int feature, bool alias) const;
 
     void writeInteger(NodeMapState& m, int feature, bool alias, qint64 value);
     void writeFloat(NodeMapState& m, int feature, double value);
@@ -227,6 +248,8 @@ private:
     void startCommandTimer(int map, int feature, int generation, int duration);
 
     bool resolve(const NodeMapState& m, const QString& name, int* feature, bool* alias) const;
+    const QString& fullNameOf(NodeMapState& m, int feature);
+    void collectChildren(NodeMapState& m, int category, bool recursive, QSet<int>* visited, QList<QString>* names);
 
     mutable QMutex m_mutex;
     DeviceDescription m_description;

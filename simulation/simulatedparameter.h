@@ -49,8 +49,9 @@ public:
     QSharedPointer<ParameterCollection::IAdvancedParameterAccess> advancedAccess() const override
     {
         m_state->checkAdvancedAccess(m_ref, m_fullName);
-        return QSharedPointer<ParameterCollection::IAdvancedParameterAccess>(
-            new SimulatedAdvancedAccess(m_state, m_ref, m_fullName));
+        // One heap block for the object and its reference count; an item asks
+        // for one each time it is made.
+        return QSharedPointer<SimulatedAdvancedAccess>::create(m_state, m_ref, m_fullName);
     }
     QSharedPointer<const ParameterCollection::ParameterData> getParameterData() const override
     {
