@@ -15,6 +15,9 @@ void NameIndex::reserve(int count)
 
 bool NameIndex::insert(const QString& name, int value)
 {
+    // A negative value marks an empty slot.
+    if (value < 0)
+        return false;
     if (size_t(m_count + 1) * 2 > m_slots.size())
         rehash(m_slots.empty() ? 16 : m_slots.size() * 2);
     const uint hash = qHash(QStringView(name));

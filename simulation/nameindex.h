@@ -19,7 +19,7 @@ class NameIndex
 {
 public:
     void reserve(int count);
-    //! Adds name -> value (value >= 0); false, and nothing changed, if the name is already there.
+    //! Adds name -> value; false, and nothing changed, if the name is already there or value is negative.
     bool insert(const QString& name, int value);
     //! The value of name, or fallback if it isn't there.
     int value(QStringView name, int fallback = -1) const;
