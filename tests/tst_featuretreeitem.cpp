@@ -16,6 +16,7 @@
 #include <QPalette>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTranslator>
 #include <QUuid>
 #include <QtTest>
 
@@ -116,6 +117,7 @@ private slots:
     void highlighterOfOneItemLeavesTheOthersAlone();
     void childrenKeepTheirOwnCollection();
     void plainItemKeepsDescriptionAndToolTipApart();
+    void valueTextFollowsALanguageChange();
 
 private:
     QSharedPointer<IParameter> parameter(const QString& name) const
@@ -842,6 +844,30 @@ void TestFeatureTreeItem::plainItemKeepsDescriptionAndToolTipApart()
     QVERIFY(!tipFirst.HasDescription());
     QVERIFY(tipFirst.GetDescription().isNull());
     QCOMPARE(tipFirst.GetToolTip(), QStringLiteral("tip"));
+}
+
+void TestFeatureTreeItem::valueTextFollowsALanguageChange()
+{
+    // The value column keeps what a snapshot shows, but its fixed texts are
+    // translated when asked: a new language reaches rows whose value stays.
+    const auto writeOnly = item(QStringLiteral("WriteOnly"));
+    const auto notAvailable = item(QStringLiteral("NotAvailable"));
+    const auto notImplemented = item(QStringLiteral("NotImplemented"));
+    const QString english = writeOnly->data(1, Qt::DisplayRole).toString();
+    QCOMPARE(english, QStringLiteral("<not readable>"));
+    QTranslator translator;
+    QVERIFY(translator.load(QStringLiteral(":/translation/ZarvexViewerComponents_ja.qm")));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const QString translated = writeOnly->data(1, Qt::DisplayRole).toString();
+    const QString translatedNotAvailable = notAvailable->data(1, Qt::DisplayRole).toString();
+    const QString translatedNotImplemented = notImplemented->data(1, Qt::DisplayRole).toString();
+    QCoreApplication::removeTranslator(&translator);
+    QVERIFY(!translated.isEmpty());
+    QVERIFY(translated != english);
+    QCOMPARE(translated, translator.translate("FeatureTreeINodeItem", "<not readable>"));
+    QCOMPARE(translatedNotAvailable, translator.translate("FeatureTreeINodeItem", "<not available>"));
+    QCOMPARE(translatedNotImplemented, translator.translate("FeatureTreeINodeItem", "<not implemented>"));
+    QCOMPARE(writeOnly->data(1, Qt::DisplayRole).toString(), english);
 }
 
 QTEST_MAIN(TestFeatureTreeItem)

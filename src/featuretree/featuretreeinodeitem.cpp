@@ -160,7 +160,7 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
     m_childrenFetched = true;
     if (!m_node) {
         m_editorType = EditorInvalid;
-        m_parameterData = ParameterData::createPlaceholder();
+        takeSnapshot(ParameterData::createPlaceholder());
         m_name = QStringLiteral("Unknown");
         if (displayName)
             *displayName = m_name;
@@ -192,7 +192,7 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
 
     try {
         QSharedPointer<const ParameterData> data = m_node->getParameterData();
-        m_parameterData = data ? data : ParameterData::createPlaceholder();
+        takeSnapshot(data ? data : ParameterData::createPlaceholder());
         m_childrenFetched = (m_parameterData->type != TypeCategory);
         if (!accessKnown)
             m_editorType = editorType(m_node);
@@ -205,7 +205,28 @@ void FeatureTreeINodeItem::initInternal(QString* displayName)
             "initInternal", QStringLiteral("Exception fired when caching parameter data"));
     }
     if (!m_parameterData)
-        m_parameterData = ParameterData::createPlaceholder();
+        takeSnapshot(ParameterData::createPlaceholder());
+}
+
+void FeatureTreeINodeItem::takeSnapshot(QSharedPointer<const ParameterData> data)
+{
+    m_parameterData = std::move(data);
+    m_valueText = QString();
+    if (!m_parameterData || !m_node) {
+        m_shownValue = ShownValue::Nothing;
+        return;
+    }
+    const ParameterData& shown = *m_parameterData;
+    if (shown.type == TypeCategory || shown.type == TypeBoolean) {
+        m_shownValue = ShownValue::Empty;
+    } else if (!shown.implemented) {
+        m_shownValue = ShownValue::NotImplemented;
+    } else if (shown.readable) {
+        m_shownValue = ShownValue::Value;
+        m_valueText = shown.valueText;
+    } else {
+        m_shownValue = shown.writable ? ShownValue::NotReadable : ShownValue::NotAvailable;
+    }
 }
 
 void FeatureTreeINodeItem::clearChildren()
@@ -229,10 +250,12 @@ int FeatureTreeINodeItem::childCount()
 
 QVariant FeatureTreeINodeItem::data(int column, int role) const
 {
-    if (!m_parameterData || !m_node)
+    if (m_shownValue == ShownValue::Nothing)
         return QVariant();
     try {
-        const int kind = m_parameterData->type;
+        // Read only where a role needs it: the display roles come from the
+        // item alone (see takeSnapshot()).
+        const auto kind = [this] { return m_parameterData->type; };
         if (column == 0) {
             switch (role) {
             case Qt::DisplayRole:
@@ -250,13 +273,13 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
             case NodeDocuUrlRole:
                 return m_docuUrl;
             case IsCategoryRole:
-                return kind == TypeCategory;
+                return kind() == TypeCategory;
             case VisibilityRole:
                 return getVisibility();
             case ItemIdRole:
                 return QUuid::createUuid().toString();
             case IsFullRowRole:
-                return kind == TypeCategory;
+                return kind() == TypeCategory;
             case IsSpecialNodeRole:
                 return m_specialNode;
             case ShowMeRole:
@@ -272,7 +295,7 @@ QVariant FeatureTreeINodeItem::data(int column, int role) const
             case Qt::DisplayRole:
                 return valueDisplayText();
             case Qt::EditRole:
-                if (kind == TypeCategory || kind == TypeBoolean)
+                if (kind() == TypeCategory || kind() == TypeBoolean)
                     return QVariant();
                 return m_parameterData->readable ? QVariant(m_parameterData->valueText) : QVariant();
             case Qt::ForegroundRole:
@@ -309,16 +332,23 @@ const QString& FeatureTreeINodeItem::displayText() const
 
 QVariant FeatureTreeINodeItem::valueDisplayText() const
 {
-    const ParameterData& data = *m_parameterData;
-    if (data.type == TypeCategory || data.type == TypeBoolean)
+    // Translated here, not when the snapshot is taken, so that a change of
+    // language reaches rows that don't change.
+    switch (m_shownValue) {
+    case ShownValue::Empty:
         return QString(QLatin1String(""));
-    if (!data.implemented)
+    case ShownValue::NotImplemented:
         return tr("<not implemented>");
-    if (data.readable)
-        return data.valueText;
-    if (data.writable)
+    case ShownValue::Value:
+        return m_valueText;
+    case ShownValue::NotReadable:
         return tr("<not readable>");
-    return tr("<not available>");
+    case ShownValue::NotAvailable:
+        return tr("<not available>");
+    case ShownValue::Nothing:
+        break;
+    }
+    return QVariant();
 }
 
 QVariant FeatureTreeINodeItem::toolTip() const
@@ -558,7 +588,7 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
             "onParameterDataChanged", QStringLiteral("Failed to adjust a node: %1").arg(m_name));
         return;
     }
-    m_parameterData = data;
+    takeSnapshot(std::move(data));
     const int itemRow = row();
     // The model that built the item learns first, as a connection made when the
     // item was built would, and not while the item's signals are blocked.
@@ -567,7 +597,7 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
     emit nodeUpdated(itemRow, this);
 }
 
-// The layout above is chosen for a 176-byte heap block per item; a field added
+// The layout above is chosen for a 192-byte heap block per item; a field added
 // without care would cost every row of the largest trees another 16 bytes.
-static_assert(sizeof(void*) != 8 || sizeof(FeatureTreeINodeItem) <= 168,
+static_assert(sizeof(void*) != 8 || sizeof(FeatureTreeINodeItem) <= 184,
     "FeatureTreeINodeItem outgrew its heap block; see the comment on its fields");
