@@ -119,7 +119,7 @@ private:
     // unit, positive once it holds the title built from it, 0 for no unit.
     mutable qint32 m_unitLength = 0;
     // What the value column shows, taken from each snapshot as it is accepted
-    // (see takeShownValue()), so that painting a row reads the item and one
+    // (see takeSnapshot()), so that painting a row reads the item and one
     // text, and not the snapshot as well: on a tree too large for the cache
     // that is one wait for memory less per row.
     enum class ShownValue : quint8 {
