@@ -146,17 +146,15 @@ private:
 
         void startPass()
         {
-            // Names no longer seen are dropped now and then, not on every pass.
-            if (used > 2 * count + 1024) {
-                table.clear();
-                used = 0;
-            }
             // Pass 0 marks empty slots; when the number wraps, old slots
-            // could pass for this pass's, so the table starts afresh.
-            if (++pass == 0) {
+            // could pass for this pass's, so the table starts afresh. Names
+            // no longer seen are dropped too, now and then, not on every pass.
+            const bool wrapped = ++pass == 0;
+            if (wrapped)
+                pass = 1;
+            if (wrapped || used > 2 * count + 1024) {
                 table.clear();
                 used = 0;
-                pass = 1;
             }
             count = 0;
         }
