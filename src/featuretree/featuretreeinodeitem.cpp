@@ -250,7 +250,7 @@ int FeatureTreeINodeItem::childCount()
 
 QVariant FeatureTreeINodeItem::data(int column, int role) const
 {
-    if (m_shownValue == ShownValue::Nothing)
+    if (!answersRoles())
         return QVariant();
     try {
         // Read only where a role needs it: the display roles come from the

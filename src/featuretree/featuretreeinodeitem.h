@@ -85,6 +85,8 @@ private:
     const QString& displayText() const;
     //! Sets m_parameterData and what the value column shows of it.
     void takeSnapshot(QSharedPointer<const ParameterCollection::ParameterData> data);
+    //! False without a node or a snapshot, when every role is an invalid QVariant.
+    bool answersRoles() const { return m_shownValue != ShownValue::Nothing; }
 
     // What all items of one node map hold alike. An item built under an item
     // of the same collection shares its parent's; setHighlighter() on a shared

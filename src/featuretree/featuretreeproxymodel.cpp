@@ -196,7 +196,7 @@ bool FeatureTreeProxyModel::readFilterFields(const QModelIndex& index, void* fie
     const QMetaObject* kind = item->metaObject();
     if (kind == &FeatureTreeINodeItem::staticMetaObject) {
         const auto* nodeItem = static_cast<const FeatureTreeINodeItem*>(item);
-        if (nodeItem->m_parameterData && nodeItem->m_node) {
+        if (nodeItem->answersRoles()) {
             fields.isCategory = nodeItem->m_parameterData->type == ParameterCollection::TypeCategory;
             fields.name = &nodeItem->m_name;
             fields.showMe = nodeItem->FeatureTreeINodeItem::ShowMe(GenApi::Guru);
