@@ -542,8 +542,8 @@ QSharedPointer<const ParameterData> NodeMapState::readSnapshot(const Entry& entr
         if (state.readable) {
             floating->value = arv_gc_float_get_value(gcFloat, &error);
             checkError(error, entry);
-            floating->valueText
-                = QString::number(floating->value, 'f', int(qBound<qint64>(0, floating->precision, 17)));
+            floating->valueText = QString::number(
+                floating->value, 'f', int(qBound(qint64(0), qint64(floating->precision), qint64(17))));
         }
         data = floating;
         break;

@@ -90,7 +90,7 @@ void checkNetmask(const QString& text)
         const QString simplified = text.simplified();
         if (simplified.startsWith(QLatin1Char('/'))) {
             bool ok = false;
-            const int length = simplified.midRef(1).toInt(&ok);
+            const int length = QStringView(simplified).mid(1).toInt(&ok);
             if (!ok || length < 0 || length > 32)
                 fail("slash mask accepted against the rules", text);
         } else {

@@ -4,13 +4,20 @@
 #   scripts/run-tests.sh --sanitize   AddressSanitizer + UndefinedBehaviorSanitizer build in build-asan/
 #   scripts/run-tests.sh --tsan       ThreadSanitizer build in build-tsan/ of the error queue
 #                                     stress test only (tst_errorreporting)
+#   scripts/run-tests.sh --qt6        normal build against Qt 6 in build-qt6/
 set -euo pipefail
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-"$root/scripts/setup.sh"
 
 build="$root/build"
 options=(-DZVC_BUILD_TESTS=ON -DZVC_BUILD_VIEWER=ON)
+if [ "${1:-}" = "--qt6" ]; then
+    "$root/scripts/setup.sh" --qt6
+    build="$root/build-qt6"
+    options+=(-DZVC_QT_MAJOR_VERSION=6)
+else
+    "$root/scripts/setup.sh"
+fi
 if [ "${1:-}" = "--sanitize" ]; then
     build="$root/build-asan"
     options+=(-DZVC_SANITIZE=ON -DCMAKE_BUILD_TYPE=Debug)

@@ -2,7 +2,12 @@
 # Installs what building, testing and running the demo need, when it is missing.
 # Debian 12 / Ubuntu: packages come from apt. Safe to run again: it installs
 # only what is not there yet.
+#   scripts/setup.sh                  what a build against Qt 5 needs
+#   scripts/setup.sh --qt6            the same and Qt 6's development packages
+#   scripts/setup.sh PACKAGE...       the same and further packages
 set -euo pipefail
+
+qt6_packages=(qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev)
 
 packages=(
     cmake ninja-build g++ pkg-config
@@ -13,7 +18,13 @@ packages=(
     fonts-noto-cjk
 )
 # Extra packages a caller may ask for, e.g. the fuzzer's compiler.
-packages+=("$@")
+for argument in "$@"; do
+    if [ "$argument" = "--qt6" ]; then
+        packages+=("${qt6_packages[@]}")
+    else
+        packages+=("$argument")
+    fi
+done
 
 missing=()
 for package in "${packages[@]}"; do

@@ -73,7 +73,7 @@ bool parseInteger(const QString& input, const QString& representation, qint64* v
     const QString text = input.trimmed();
     bool ok = false;
     if (text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
-        const quint64 v = text.midRef(2).toULongLong(&ok, 16);
+        const quint64 v = QStringView(text).mid(2).toULongLong(&ok, 16);
         *value = qint64(v);
         return ok && text.size() > 2;
     }

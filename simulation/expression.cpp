@@ -165,7 +165,7 @@ private:
     {
         skipSpace();
         const QLatin1String t(token);
-        if (m_text.midRef(m_pos, t.size()) == t) {
+        if (QStringView(m_text).mid(m_pos, t.size()).compare(t) == 0) {
             m_pos += t.size();
             return true;
         }
@@ -381,12 +381,12 @@ private:
         const int start = m_pos;
         auto node = std::make_shared<Expression::Node>();
         node->op = Expression::Node::Constant;
-        if (m_text.midRef(m_pos, 2).compare(QLatin1String("0x"), Qt::CaseInsensitive) == 0) {
+        if (QStringView(m_text).mid(m_pos, 2).compare(QLatin1String("0x"), Qt::CaseInsensitive) == 0) {
             m_pos += 2;
             while (m_pos < m_text.size() && isHexDigit(m_text.at(m_pos)))
                 ++m_pos;
             bool ok = false;
-            const qint64 value = m_text.midRef(start + 2, m_pos - start - 2).toLongLong(&ok, 16);
+            const qint64 value = QStringView(m_text).mid(start + 2, m_pos - start - 2).toLongLong(&ok, 16);
             if (!ok)
                 return fail(QStringLiteral("bad hexadecimal number"));
             node->constant = ExpressionValue::fromInteger(value);
@@ -412,7 +412,7 @@ private:
                     ++m_pos;
             }
         }
-        const QStringRef number = m_text.midRef(start, m_pos - start);
+        const QStringView number = QStringView(m_text).mid(start, m_pos - start);
         bool ok = false;
         if (isFloat) {
             const double value = number.toDouble(&ok);

@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
+#endif
 
 #include <limits>
 
@@ -1170,23 +1172,31 @@ void TestFavoritesData::loadPassesTheNameThroughTheLocalEncoding()
             { QStringLiteral("0"),
                 QString(umlauts + QLatin1Char('*') + umlauts + QStringLiteral("*@CameraDevice")) } });
 
-    QTextCodec* const previous = QTextCodec::codecForLocale();
-    auto load = [](const char* codec) {
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName(codec));
+    auto load = [] {
         FavoritesData store;
         store.LoadFavorites(QLatin1String(storeGroup));
         return store.countNodes() == 1 ? *store.nodeAt(0) : Item();
     };
-    const Item viaUtf8 = load("UTF-8");
-    const Item viaLatin1 = load("ISO-8859-1");
+    // Qt 6 takes the local 8-bit encoding of Linux to be UTF-8 whatever the
+    // locale says; Qt 5 follows the locale, and both of its common cases are
+    // tried.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec* const previous = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    const Item viaUtf8 = load();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+    const Item viaLatin1 = load();
     QTextCodec::setCodecForLocale(previous);
+    QCOMPARE(viaLatin1.name, umlauts);
+    QCOMPARE(viaLatin1.displayName, umlauts);
+#else
+    const Item viaUtf8 = load();
+#endif
 
     // The name comes back as the local bytes read as Latin-1; the display
     // name is taken as it is.
     QCOMPARE(viaUtf8.name, QString::fromLatin1(umlauts.toUtf8()));
     QCOMPARE(viaUtf8.displayName, umlauts);
-    QCOMPARE(viaLatin1.name, umlauts);
-    QCOMPARE(viaLatin1.displayName, umlauts);
 }
 
 void TestFavoritesData::initOnceLoadsOnlyOnce()

@@ -192,7 +192,7 @@ void TestFeatureTreeWidget::formHasItsObjectsAndTexts()
     QVERIFY(widget.treeView()->dragEnabled());
     QVERIFY(widget.treeView()->uniformRowHeights());
     QCOMPARE(searchLine(widget)->shadowDisplayString(),
-        QStringLiteral("Search (%1)").arg(QKeySequence(Qt::CTRL + Qt::Key_F).toString(QKeySequence::NativeText)));
+        QStringLiteral("Search (%1)").arg(QKeySequence(Qt::CTRL | Qt::Key_F).toString(QKeySequence::NativeText)));
 }
 
 void TestFeatureTreeWidget::actionsAndShortcuts()

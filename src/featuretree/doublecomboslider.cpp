@@ -176,8 +176,8 @@ void DoubleComboSlider::setPageStep()
     const qint64 twoIncrements = 2 * qint64(intIncrement);
     const qint64 page = qMax(twentieth, twoIncrements);
     // Trimmed against the grid from the minimum although a page is a distance.
-    slider->setPageStep(
-        trimSliderValue(int(qBound<qint64>(std::numeric_limits<int>::min(), page, std::numeric_limits<int>::max()))));
+    slider->setPageStep(trimSliderValue(
+        int(qBound(qint64(std::numeric_limits<int>::min()), page, qint64(std::numeric_limits<int>::max())))));
     updateToolTip();
 }
 
@@ -229,7 +229,8 @@ void DoubleComboSlider::onSpinBoxStepTriggered(int steps)
     else
         target = value + qint64(steps) * intIncrement;
     // The slider clamps to its range; this only keeps the sum from overflowing on the way.
-    slider->setValue(int(qBound<qint64>(std::numeric_limits<int>::min(), target, std::numeric_limits<int>::max())));
+    slider->setValue(
+        int(qBound(qint64(std::numeric_limits<int>::min()), target, qint64(std::numeric_limits<int>::max()))));
 }
 
 void DoubleComboSlider::updateToolTip()

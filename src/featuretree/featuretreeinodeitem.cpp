@@ -27,8 +27,8 @@ QString translationContextOf(const QString& fullName)
     thread_local QString lastPrefix;
     thread_local QString lastContext;
     const int slash = fullName.indexOf(QLatin1Char('/'), 1);
-    const QStringRef prefix = slash >= 0 ? fullName.leftRef(slash) : QStringRef(&fullName);
-    if (slash < 0 || lastPrefix.isNull() || prefix != lastPrefix) {
+    const QStringView prefix = slash >= 0 ? QStringView(fullName).left(slash) : QStringView(fullName);
+    if (slash < 0 || lastPrefix.isNull() || prefix != QStringView(lastPrefix)) {
         lastContext = GetNodemapName(fullName);
         lastPrefix = slash >= 0 ? prefix.toString() : QString();
     }
@@ -599,5 +599,8 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
 
 // The layout above is chosen for a 192-byte heap block per item; a field added
 // without care would cost every row of the largest trees another 16 bytes.
-static_assert(sizeof(void*) != 8 || sizeof(FeatureTreeINodeItem) <= 184,
+// Qt 6's strings and lists carry their size and data pointer beside the
+// shared block, 24 bytes instead of 8; the item holds nine of them with its
+// base class's, and the bound grows by that much there.
+static_assert(sizeof(void*) != 8 || sizeof(FeatureTreeINodeItem) <= 184 + 9 * (sizeof(QString) - sizeof(void*)),
     "FeatureTreeINodeItem outgrew its heap block; see the comment on its fields");

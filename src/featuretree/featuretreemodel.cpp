@@ -9,10 +9,38 @@
 #include "parameters/iadvancedparameteraccess.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QMimeData>
 #include <QSet>
 
+#include <memory>
+
 using namespace ParameterCollection;
+
+// A layout change of the model for the length of a scope: layoutAboutToBeChanged()
+// at its start, layoutChanged() at its end, also when it is left by an exception.
+class FeatureTreeModel::LayoutChange
+{
+public:
+    explicit LayoutChange(FeatureTreeModel* model)
+        : m_model(model)
+        , m_outer(model->m_layoutChanging)
+    {
+        m_model->m_layoutChanging = true;
+        emit m_model->layoutAboutToBeChanged();
+    }
+    ~LayoutChange()
+    {
+        emit m_model->layoutChanged();
+        m_model->m_layoutChanging = m_outer;
+    }
+    LayoutChange(const LayoutChange&) = delete;
+    LayoutChange& operator=(const LayoutChange&) = delete;
+
+private:
+    FeatureTreeModel* m_model;
+    bool m_outer;
+};
 
 namespace {
 
@@ -316,9 +344,10 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
         item->SetIsSpecialNode(false);
         connectItem(item);
 
-        emit layoutAboutToBeChanged();
-        m_root->appendChild(item);
-        emit layoutChanged();
+        {
+            const LayoutChange change(this);
+            m_root->appendChild(item);
+        }
 
         replaceFavoritesZombies(collection, nodeMapName);
         item->childCount();
@@ -375,13 +404,21 @@ void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
     }
     if (built.isEmpty())
         return;
-    const QModelIndex parentIndex = indexForItem(nodeItem, 0);
-    beginInsertRows(parentIndex, 0, built.count() - 1);
+    // Inside a layout change of this model, whose receivers ask for the rows
+    // of levels not filled yet, the new rows are part of that change: every
+    // receiver reads the layout again at layoutChanged(), and a parent that
+    // had no rows moves no persistent index. Announcing them as an insertion
+    // there would nest one change in another, which proxies and views are not
+    // made for.
+    const bool announce = !m_layoutChanging;
+    if (announce)
+        beginInsertRows(indexForItem(nodeItem, 0), 0, built.count() - 1);
     // One block of the right size for the list, instead of the slack of growing it.
     nodeItem->m_children.reserve(nodeItem->m_children.count() + built.count());
     for (FeatureTreeINodeItem* item : qAsConst(built))
         nodeItem->appendChild(item);
-    endInsertRows();
+    if (announce)
+        endInsertRows();
 }
 
 void FeatureTreeModel::clear()
@@ -599,21 +636,22 @@ void FeatureTreeModel::CreateFavoritesRoot()
 {
     if (m_favoritesRoot)
         return;
-    emit layoutAboutToBeChanged();
-    auto* favoritesRoot = new FeatureTreeFavoritesItem(tr("Favorites"), this, m_root);
-    favoritesRoot->SetDescription(
-        tr("<h3>Favorites</h3><b>This node contains a list of features selected by the user</b><br><br>To add a "
-           "feature, right-click the feature and choose 'Add to Favorites' from the context menu. You can also use "
-           "drag and drop to add features to your favorites.<br>Favorites can be moved up and down within the list as "
-           "well as removed from the list by right-clicking an item and choosing the appropriate option from the "
-           "context menu."));
-    m_root->insertChild(favoritesRoot, 0);
-    favoritesRoot->setVisibility(GenApi::Beginner);
-    favoritesRoot->SetIsFullRowItem(true);
-    favoritesRoot->SetIsSpecialNode(true);
-    m_favoritesRoot = favoritesRoot;
-    syncPersistentIndexes();
-    emit layoutChanged();
+    {
+        const LayoutChange change(this);
+        auto* favoritesRoot = new FeatureTreeFavoritesItem(tr("Favorites"), this, m_root);
+        favoritesRoot->SetDescription(tr(
+            "<h3>Favorites</h3><b>This node contains a list of features selected by the user</b><br><br>To add a "
+            "feature, right-click the feature and choose 'Add to Favorites' from the context menu. You can also use "
+            "drag and drop to add features to your favorites.<br>Favorites can be moved up and down within the list as "
+            "well as removed from the list by right-clicking an item and choosing the appropriate option from the "
+            "context menu."));
+        m_root->insertChild(favoritesRoot, 0);
+        favoritesRoot->setVisibility(GenApi::Beginner);
+        favoritesRoot->SetIsFullRowItem(true);
+        favoritesRoot->SetIsSpecialNode(true);
+        m_favoritesRoot = favoritesRoot;
+        syncPersistentIndexes();
+    }
     const QModelIndex rootIndex = indexForItem(m_root, 0);
     emit dataChanged(rootIndex, rootIndex);
     const QModelIndex favoritesIndex = indexForItem(m_favoritesRoot, 0);

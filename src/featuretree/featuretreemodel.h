@@ -137,6 +137,10 @@ private:
     bool m_monitorMode = false;
     bool m_genICamCallbacksEnabled = true;
     bool m_textAsUtf8 = false;
+    // Between this model's layoutAboutToBeChanged() and the return of its
+    // layoutChanged(): levels filled then are part of that layout change.
+    bool m_layoutChanging = false;
+    class LayoutChange;
     FeatureTreeHighlighter* m_highlighter = nullptr; // not owned
     // Items of this model whose children are still to be fetched (kept by the
     // items, see FeatureTreeINodeItem::childCount): at zero the proxy knows

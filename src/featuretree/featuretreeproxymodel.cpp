@@ -6,7 +6,6 @@
 #include "featuretreeitem.h"
 #include "featuretreemodel.h"
 
-#include <QRegExp>
 #include <QVector>
 
 using namespace ParameterCollection;
@@ -77,85 +76,14 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex& parent) const
     return QSortFilterProxyModel::hasChildren(parent);
 }
 
-namespace {
-
-// The search text folded to lower case, for the case-insensitive test below,
-// kept with the text it was made from.
-struct FoldedPattern
-{
-    QString source;
-    QVector<ushort> folded;
-    bool ascii = false;
-
-    void set(const QString& pattern)
-    {
-        source = pattern;
-        folded.resize(pattern.size());
-        ascii = true;
-        for (int i = 0; i < pattern.size(); ++i) {
-            const ushort c = pattern.at(i).unicode();
-            ascii = ascii && c < 0x80;
-            folded[i] = (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c;
-        }
-    }
-};
-
-// QString::contains(pattern, Qt::CaseInsensitive) where pattern and text are
-// ASCII, which feature names are: Qt's search folds every character through
-// the Unicode tables and took more time than the rest of the filter per row.
-// Gives -1 where it can't tell (text or pattern not ASCII, where Unicode
-// folding may map other characters onto letters), 0 or 1 otherwise.
-int containsAsciiIgnoringCase(const QString& text, const FoldedPattern& pattern)
-{
-    const int needleSize = pattern.folded.size();
-    if (!pattern.ascii || needleSize == 0)
-        return -1;
-    const ushort* haystack = reinterpret_cast<const ushort*>(text.constData());
-    const int size = text.size();
-    for (int i = 0; i < size; ++i) {
-        if (haystack[i] >= 0x80)
-            return -1;
-    }
-    const ushort* needle = pattern.folded.constData();
-    const auto fold = [](ushort c) { return (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c; };
-    for (int start = 0; start + needleSize <= size; ++start) {
-        int i = 0;
-        while (i < needleSize && fold(haystack[start + i]) == needle[i])
-            ++i;
-        if (i == needleSize)
-            return 1;
-    }
-    return 0;
-}
-
-bool matches(const QRegExp& pattern, const QString& text)
-{
-    // A fixed string, as the widget sets it, needs no regular expression machinery.
-    if (pattern.patternSyntax() != QRegExp::FixedString)
-        return pattern.indexIn(text) != -1;
-    const QString fixed = pattern.pattern();
-    if (pattern.caseSensitivity() == Qt::CaseInsensitive) {
-        // Folded once per search text (the texts are compared by identity).
-        thread_local FoldedPattern folded;
-        if (!fixed.isSharedWith(folded.source) || folded.source.isNull())
-            folded.set(fixed);
-        const int found = containsAsciiIgnoringCase(text, folded);
-        if (found >= 0)
-            return found == 1;
-    }
-    return text.contains(fixed, pattern.caseSensitivity());
-}
-
-} // namespace
-
 bool FeatureTreeProxyModel::matchesFilter(const QString& text) const
 {
     // Outside filterAcceptsRow() the pattern of the pass is left alone. (Two
     // calls, not one with a conditional: that would copy the pass's pattern
-    // into a temporary, a QRegExp allocation for every row.)
+    // into a temporary for every row.)
     if (m_patternCached)
-        return matches(m_pattern, text);
-    return matches(filterRegExp(), text);
+        return m_pattern.matches(text);
+    return SearchPattern::ofProxy(*this, m_pattern).matches(text);
 }
 
 namespace {
@@ -387,7 +315,7 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& s
     // ones before the top level, so matches counted before that row would be
     // lost and, their parents being mapped already, not come back.
     if (!sourceParent.isValid() || !m_patternKnown) {
-        const QRegExp pattern = filterRegExp();
+        const SearchPattern pattern = SearchPattern::ofProxy(*this, m_pattern);
         if (pattern != m_pattern || m_visibility != m_passVisibility) {
             m_visibleMatches.startPass();
             m_invisibleMatches.startPass();

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ifeaturetreemodelextension.h"
+#include "searchpattern.h"
 #include "zarvexviewercomponents_export.h"
 
 #include <QHash>
-#include <QRegExp>
 #include <QSortFilterProxyModel>
 
 #include <vector>
@@ -168,7 +168,7 @@ private:
     mutable MatchSet m_invisibleMatches;
     // The filter's pattern as of the last top-level row filtered; used while
     // filterAcceptsRow() runs (m_patternCached).
-    mutable QRegExp m_pattern;
+    mutable SearchPattern m_pattern;
     mutable bool m_patternKnown = false;
     // The level of the present pass.
     mutable GenApi::EVisibility m_passVisibility = GenApi::Guru;

@@ -460,9 +460,12 @@ void FeatureTreeView::dataChanged(QModelIndex const& topLeft, QModelIndex const&
     QTreeView::dataChanged(topLeft, bottomRight, roles);
 }
 
-QStyleOptionViewItem FeatureTreeView::viewOptions() const
+namespace {
+
+// A selected row shows only through its text, half transparent; the
+// highlight behind it is invisible.
+void makeSelectionTransparent(QStyleOptionViewItem& options)
 {
-    QStyleOptionViewItem options = QTreeView::viewOptions();
     const QBrush transparent(QColor(0, 0, 0, 0));
     QColor activeText = options.palette.color(QPalette::Active, QPalette::Text);
     activeText.setAlpha(128);
@@ -473,8 +476,24 @@ QStyleOptionViewItem FeatureTreeView::viewOptions() const
             group, QPalette::HighlightedText, QBrush(options.palette.color(group, QPalette::Text)));
         options.palette.setBrush(group, QPalette::Highlight, transparent);
     }
+}
+
+} // namespace
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+QStyleOptionViewItem FeatureTreeView::viewOptions() const
+{
+    QStyleOptionViewItem options = QTreeView::viewOptions();
+    makeSelectionTransparent(options);
     return options;
 }
+#else
+void FeatureTreeView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QTreeView::initViewItemOption(option);
+    makeSelectionTransparent(*option);
+}
+#endif
 
 void FeatureTreeView::drawRow(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const
 {

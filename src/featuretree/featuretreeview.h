@@ -102,7 +102,13 @@ protected:
     void rowsInserted(QModelIndex const& parent, int start, int end) override;
     void rowsAboutToBeRemoved(QModelIndex const& parent, int start, int end) override;
     void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
+    // The item view's hook for the options its rows are painted with: a
+    // function that returns them in Qt 5, one that fills them in in Qt 6.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QStyleOptionViewItem viewOptions() const override;
+#else
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
+#endif
     void drawRow(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override;
     void paintEvent(QPaintEvent* event) override;
     void updateEditorGeometries() override;

@@ -86,16 +86,16 @@ FeatureTreeWidget::FeatureTreeWidget(QString text, QSharedPointer<Plugin::Camera
     auto* findShortcut = new QShortcut(QKeySequence(Qt::Key_F3), ui->filterEdit);
     findShortcut->setContext(Qt::WindowShortcut);
     connect(findShortcut, SIGNAL(activated()), ui->filterEdit, SLOT(setFocus()));
-    auto* searchShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_F), ui->filterEdit);
+    auto* searchShortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), ui->filterEdit);
     searchShortcut->setContext(Qt::WindowShortcut);
     connect(searchShortcut, SIGNAL(activated()), ui->filterEdit, SLOT(setFocus()));
     QString shadow = tr("Search (%1)").arg(searchShortcut->key().toString(QKeySequence::NativeText));
     ui->filterEdit->setShadowDisplayString(shadow);
 
-    auto* collapseShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::ALT + Qt::SHIFT + Qt::Key_Minus), ui->treeView);
+    auto* collapseShortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Minus), ui->treeView);
     collapseShortcut->setContext(Qt::WindowShortcut);
     connect(collapseShortcut, SIGNAL(activated()), ui->treeView, SLOT(collapseAll()));
-    auto* expandShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::ALT + Qt::SHIFT + Qt::Key_Plus), this);
+    auto* expandShortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Plus), this);
     expandShortcut->setContext(Qt::WindowShortcut);
     connect(expandShortcut, SIGNAL(activated()), this, SLOT(expandTree()));
 
@@ -455,7 +455,7 @@ void FeatureTreeWidget::onFilterTextChanged(QString const& newText)
     if (proxy) {
         // The user's expansion and current row are kept for the whole search,
         // saved at its first letter and given back when the line is empty again.
-        const bool patternWasEmpty = proxy->filterRegExp().pattern().isEmpty();
+        const bool patternWasEmpty = SearchPattern::ofProxy(*proxy).text().isEmpty();
         if (patternWasEmpty && !newText.isEmpty()) {
             saveExpandedStatus();
             saveSelectionStatus();

@@ -35,7 +35,9 @@ void IntEditor::setEditorData(AbstractItemEditor::EditorData data)
         const QString& representation = integer->representation;
         if (representation == QLatin1String("HexNumber")) {
             setText(integer->valueText);
-            setToolTip(tr("Range: 0x%1..0x%2").arg(qint64(minimum), 0, 16).arg(qint64(maximum), 0, 16));
+            // A negative limit shows as its 64-bit two's complement, as the device would read it.
+            setToolTip(
+                tr("Range: 0x%1..0x%2").arg(quint64(qint64(minimum)), 0, 16).arg(quint64(qint64(maximum)), 0, 16));
         } else if (representation == QLatin1String("PureNumber") || representation == QLatin1String("Linear")
             || representation == QLatin1String("Logarithmic")) {
             setText(integer->valueText);

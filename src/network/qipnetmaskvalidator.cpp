@@ -25,7 +25,7 @@ QValidator::State QIpNetmaskValidator::validate(QString& input, int& pos) const
     QString text = input.simplified();
     if (text.startsWith(QLatin1Char('/'))) {
         bool ok = false;
-        const int length = text.midRef(1).toInt(&ok);
+        const int length = QStringView(text).mid(1).toInt(&ok);
         return ok && length >= 0 && length <= 32 ? Acceptable : Intermediate;
     }
 
@@ -62,7 +62,7 @@ void QIpNetmaskValidator::fixup(QString& input) const
         return;
 
     // What doesn't read as a number counts as 0: a lone "/" becomes 0.0.0.0.
-    const int length = text.midRef(1).toInt();
+    const int length = QStringView(text).mid(1).toInt();
     if (length < 0 || length > 32)
         return;
     input = QHostAddress(maskOfLength(length)).toString();

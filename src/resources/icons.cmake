@@ -76,6 +76,6 @@ file(WRITE ${ZVC_ICON_QRC}.in
 configure_file(${ZVC_ICON_QRC}.in ${ZVC_ICON_QRC} COPYONLY)
 
 # Kept away from AUTORCC, whose dependency scan runs before the images exist;
-# qt5_add_resources makes rcc depend on every rendered file instead.
+# qt_add_resources makes rcc depend on every rendered file instead.
 set_source_files_properties(${ZVC_ICON_QRC} PROPERTIES SKIP_AUTORCC ON)
-qt5_add_resources(ZVC_ICON_RESOURCES ${ZVC_ICON_QRC} OPTIONS -name zarvexviewercomponents_icons)
+qt_add_resources(ZVC_ICON_RESOURCES ${ZVC_ICON_QRC} OPTIONS -name zarvexviewercomponents_icons)

@@ -12,7 +12,7 @@
 #
 # Sets ZVC_TRANSLATION_RESOURCES to the generated rcc source for the library.
 
-find_package(Qt5LinguistTools 5.15 REQUIRED)
+find_package(${ZVC_QT}LinguistTools ${ZVC_QT_MINIMUM_VERSION} REQUIRED)
 
 set(ZVC_LANGUAGES en ja ko zh)
 set(ZVC_TRANSLATION_DIR ${CMAKE_CURRENT_SOURCE_DIR}/translations)
@@ -28,7 +28,7 @@ foreach(language ${ZVC_LANGUAGES})
     set(qm ${ZVC_QM_DIR}/ZarvexViewerComponents_${language}.qm)
     add_custom_command(
         OUTPUT ${qm}
-        COMMAND Qt5::lrelease -silent ${sources} ${tooltips} -qm ${qm}
+        COMMAND ${ZVC_QT}::lrelease -silent ${sources} ${tooltips} -qm ${qm}
         DEPENDS ${sources} ${tooltips}
         COMMENT "Compiling the ${language} translations"
         VERBATIM)
@@ -47,19 +47,19 @@ file(WRITE ${ZVC_QM_QRC}.in
 configure_file(${ZVC_QM_QRC}.in ${ZVC_QM_QRC} COPYONLY)
 # As with the icons: rcc must wait for lrelease.
 set_source_files_properties(${ZVC_QM_QRC} PROPERTIES SKIP_AUTORCC ON)
-qt5_add_resources(ZVC_TRANSLATION_RESOURCES ${ZVC_QM_QRC} OPTIONS -name zarvexviewercomponents_translations)
+qt_add_resources(ZVC_TRANSLATION_RESOURCES ${ZVC_QM_QRC} OPTIONS -name zarvexviewercomponents_translations)
 set_source_files_properties(${ZVC_TRANSLATION_RESOURCES} PROPERTIES OBJECT_DEPENDS "${ZVC_QM_FILES}")
 
 # Brings the source catalogues up to date with the tr() texts of the library's
 # sources and forms. Not part of the build: run it after changing texts, then
 # translate what it added.
 add_custom_target(zvc_lupdate
-    COMMAND Qt5::lupdate -silent -locations relative -no-obsolete ${CMAKE_CURRENT_SOURCE_DIR}/featuretree
+    COMMAND ${ZVC_QT}::lupdate -silent -locations relative -no-obsolete ${CMAKE_CURRENT_SOURCE_DIR}/featuretree
         ${CMAKE_CURRENT_SOURCE_DIR}/messages ${CMAKE_CURRENT_SOURCE_DIR}/network -ts ${ZVC_SOURCE_CATALOGUES}
     WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}
     COMMENT "Updating the translation catalogues from the sources"
     VERBATIM)
 
 # The tests run lupdate too, to find texts of the sources that the catalogues lack.
-get_target_property(ZVC_LUPDATE_EXECUTABLE Qt5::lupdate IMPORTED_LOCATION)
+get_target_property(ZVC_LUPDATE_EXECUTABLE ${ZVC_QT}::lupdate IMPORTED_LOCATION)
 set(ZVC_LUPDATE_EXECUTABLE ${ZVC_LUPDATE_EXECUTABLE} CACHE INTERNAL "lupdate, for the translation tests")

@@ -654,7 +654,7 @@ QString TestChaos::checkCounts()
 void TestChaos::compareCounts(int total, int hidden)
 {
     FeatureTreeProxyModel* filter = proxy();
-    const QString text = filter->filterRegExp().pattern();
+    const QString text = SearchPattern::ofProxy(*filter).text();
     if (text.isEmpty() || !m_countFailure.isEmpty())
         return;
     QElapsedTimer timer;
