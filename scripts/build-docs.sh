@@ -11,12 +11,12 @@ build="$root/build-docs"
 cmake -S "$root" -B "$build" -G Ninja \
     -DZVC_BUILD_TESTS=OFF -DZVC_BUILD_VIEWER=OFF -DZVC_BUILD_DOCS=ON
 
-# Doxygen itself fails on a warning (WARN_AS_ERROR); the log is kept so that
-# the warnings can be counted and shown together as well.
+# Doxygen itself fails on a warning (WARN_AS_ERROR, which prints each warning
+# as "error:"); the log is kept so that they can be counted as well.
 log="$build/docs/doxygen.log"
 status=0
 cmake --build "$build" --target zvc_docs 2>&1 | tee "$log" || status=$?
-warnings=$(grep -c 'warning:' "$log" || true)
+warnings=$(grep -cE '(warning|error): ' "$log" || true)
 if [ "$status" -ne 0 ] || [ "$warnings" -ne 0 ]; then
     echo "API reference: failed with $warnings Doxygen warning(s), see $log" >&2
     exit 1

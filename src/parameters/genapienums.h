@@ -24,7 +24,7 @@ enum EVisibility { Beginner = 0, Expert = 1, Guru = 2, Invisible = 3, _Undefined
  * \var GenApi::Invisible
  * Shown only at the Invisible level; a category of this level is never built into the tree.
  * \var GenApi::_UndefinedVisibility
- * No visibility known, as in the placeholder snapshot; shown at no level.
+ * No visibility known, as in the placeholder snapshot.
  */
 
 //! Access mode of a feature, as computed from a snapshot.
