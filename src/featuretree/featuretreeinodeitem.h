@@ -81,10 +81,11 @@ public:
     GenApi::EAccessMode getAccessMode() const override;
     //! The visibility of the last snapshot.
     GenApi::EVisibility getVisibility() const override;
-    //! Enabled where the parameter is writable or a command, draggable where it is readable
-    //! (a command never), editable in column 1 where it is writable.
+    //! Column 0 is selectable, enabled and draggable, except that a readable category can't be dragged;
+    //! column 1 is editable where the parameter is writable or keeps an editor open. None without a snapshot.
     Qt::ItemFlags flags(int column) const override;
-    //! The disabled text brush for a feature that isn't editable; nothing, the ordinary text, otherwise and for a category.
+    //! The disabled text brush for a feature that isn't editable; nothing (the ordinary text) otherwise
+    //! and for a category.
     QVariant GetForegroundRole() const override;
     //! The snapshot says writable, and the item has an editor type with an editor.
     bool isEditable() const override;

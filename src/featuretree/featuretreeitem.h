@@ -37,7 +37,8 @@ public:
         EditorInt = 0, //!< an integer of any representation but "Linear" and "Logarithmic": IntEditor
         EditorIntSlider = 1, //!< an integer shown as "Linear" or "Logarithmic": IntSliderEditor
         EditorFloat = 2, //!< a float of any other representation: FloatEditor
-        EditorFloatSlider = 3, //!< a float shown as "Linear" or "Logarithmic": FloatSliderEditor where it has an alias, else FloatEditor
+        //! a float shown as "Linear" or "Logarithmic": FloatSliderEditor where it has an alias, else FloatEditor
+        EditorFloatSlider = 3,
         EditorEnum = 4, //!< an enumeration: EnumEditor
         EditorBool = 5, //!< a boolean: CheckBoxEditor
         EditorString = 6, //!< a string: the delegate's default line edit, opened on demand
@@ -54,8 +55,11 @@ public:
         NodeDocuUrlRole = Qt::UserRole + 0x04, //!< the parameter's "DocuURL" property
         IsCategoryRole = Qt::UserRole + 0x05, //!< the item is a category (the favourites root counts as one)
         VisibilityRole = Qt::UserRole + 0x06, //!< the item's GenApi::EVisibility, as an integer
-        ItemIdRole = Qt::UserRole + 0x0a, //!< a key of the row for remembering expansion: a hash of a plain item's full name; a parameter item's column 0 gives a new text on every request
-        IsFullRowRole = Qt::UserRole + 0x0c, //!< the row spans both columns (node map roots, categories, the special lines)
+        //! a key of the row for remembering expansion: a hash of a plain item's full name; a parameter
+        //! item's column 0 gives a new text on every request
+        ItemIdRole = Qt::UserRole + 0x0a,
+        //! the row spans both columns (node map roots, categories, the special lines)
+        IsFullRowRole = Qt::UserRole + 0x0c,
         IsSpecialNodeRole = Qt::UserRole + 0x0d, //!< a special line, painted without search marks
         ShowMeRole = Qt::UserRole + 0x0e, //!< ShowMe() at the Guru level
         FullNameRole = Qt::UserRole + 0x20 //!< the item's full name
@@ -109,8 +113,9 @@ public:
     virtual void setVisibility(GenApi::EVisibility visibility);
     /*!
      * Qt's item flags for column: selectable, draggable and enabled in column
-     * 0; editable in column 1 where the item keeps an editor open. The help
-     * line of an empty favourites list ("Dummy") has none at all.
+     * 0; editable in column 1 where the item keeps an editor open or its
+     * access mode is NI or WO. The help line of an empty favourites list
+     * ("Dummy") has none at all.
      */
     virtual Qt::ItemFlags flags(int column) const;
     //! The text brush of the row: the palette's disabled text here, so that a plain item shows grey.
@@ -167,7 +172,8 @@ public:
     bool findShallow(const FeatureTreeItem* item) const;
     //! The item itself or its first built descendant, depth first, whose full name is fullName; null if none.
     FeatureTreeItem* findByFullNameShallow(const QString& fullName);
-    //! The item itself or its first built descendant, depth first, whose column 0 answers value in role; null if none.
+    //! The item itself or its first built descendant, depth first, whose column 0 answers value in role;
+    //! null if none.
     FeatureTreeItem* findByRoleShallow(int role, const QVariant& value);
 
 protected:
@@ -201,7 +207,7 @@ protected:
     FeatureTreeItem* m_parent; //!< not owned
     QList<FeatureTreeItem*> m_children; //!< owned
     qint32 m_editorType = EditorNone; //!< one of EditorType
-    bool m_childrenFetched = false; //!< the children were fetched, or there are none to fetch; a category fetches once only
+    bool m_childrenFetched = false; //!< the children were fetched, or there are none; a category fetches once only
     bool m_fullRow = false; //!< the row spans both columns
     bool m_specialNode = false; //!< the row is a special line
     //! Set whenever the displayed name is set; a derived class that keeps text

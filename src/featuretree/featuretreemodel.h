@@ -74,13 +74,14 @@ public:
     //! The item's flags for the index's column; Qt::ItemIsEnabled for an invalid index.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     //! What the item shows. A read that throws gives an invalid QVariant and queues
-    //! one message for a run of failures.
+    //! one message for a run of failures (none for a GenICam::GenericException).
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     /*!
      * Writes a value of column 1 in Qt::EditRole to the parameter, unless the
      * item shows that value already. False for any other cell or role, an
-     * invalid value, a gone device or a failed write; a failed write is
-     * queued on the error queue while the device is there. Emits nothing: the
+     * invalid value, a gone device or a failed write; a failed write (other
+     * than a GenICam::GenericException) is queued on the error queue while
+     * the device is there. Emits nothing: the
      * new value comes back through the parameter's change signal.
      */
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;

@@ -149,7 +149,8 @@ signals:
 public slots:
     //! In monitor mode each poll refreshes every value of the first node map instead of polling it.
     void setMonitorMode(bool on);
-    //! Removes every node map's items from the tree; polling and refresh still reach the first node map.
+    //! Removes every item from the tree, the favourites branch and the search result line included,
+    //! resetting the views around it. Polling and refresh still reach the first node map.
     void clear();
     //! Expands the tree three levels deep.
     void expandTree();

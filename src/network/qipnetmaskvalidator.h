@@ -30,6 +30,7 @@ public:
 
     //! Acceptable for a usable mask in either form; see the class for what is Intermediate.
     State validate(QString& input, int& pos) const override;
-    //! Turns "/0" to "/32" into the dotted mask ("/24" into "255.255.255.0"); leaves any other text alone.
+    //! Turns the slash form of at most three characters into the dotted mask ("/24" into
+    //! "255.255.255.0"; a slash without a number counts as "/0"); leaves any other text alone.
     void fixup(QString& input) const override;
 };
