@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/SearchEdit.h
+ * SearchEdit, the search line above the feature tree.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -18,6 +22,7 @@ class ZVC_EXPORT SearchEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    //! An empty line with the lens showing and no hint.
     explicit SearchEdit(QWidget* parent = nullptr);
     ~SearchEdit() override;
 
@@ -32,7 +37,9 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    //! Applies a font handed down by a parent under the line's style sheet too.
     void changeEvent(QEvent* event) override;
+    //! Paints the line, then the hint in grey while there is no text.
     void paintEvent(QPaintEvent* event) override;
 
 private slots:

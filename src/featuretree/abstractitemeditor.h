@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/abstractitemeditor.h
+ * AbstractItemEditor, the interface of the feature tree's value editors.
+ */
 #pragma once
 
 #include "parameters/iparameter.h"
@@ -16,6 +20,11 @@
  * Editors show what the snapshot says, never what the live parameter says;
  * the live parameter serves for names in messages and for the few operations
  * that act on the device directly.
+ *
+ * A host may use an editor in a form of its own: fill it with
+ * setEditorData({parameter, snapshot}) and commit editorData() through the
+ * model's setData() in Qt::EditRole. Editors catch and log what the
+ * parameter throws; nothing leaves setEditorData().
  */
 class ZVC_EXPORT AbstractItemEditor
 {
@@ -36,8 +45,11 @@ public:
     virtual ~AbstractItemEditor();
 
 protected:
+    //! For the editors.
     AbstractItemEditor() = default;
+    //! Copies nothing: the interface has no data.
     AbstractItemEditor(const AbstractItemEditor&) = default;
+    //! Copies nothing: the interface has no data.
     AbstractItemEditor& operator=(const AbstractItemEditor&) = default;
 };
 

@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/checkboxeditor.h
+ * CheckBoxEditor, the editor of boolean parameters.
+ */
 #pragma once
 
 #include "abstractitemeditor.h"
@@ -14,10 +18,13 @@ class ZVC_EXPORT CheckBoxEditor : public QCheckBox, public AbstractItemEditor
     Q_OBJECT
 
 public:
+    //! An unchecked box.
     explicit CheckBoxEditor(QWidget* parent = nullptr);
     ~CheckBoxEditor() override;
 
     //! A null snapshot or one of another kind is ignored without a word.
+    //! Otherwise shows the snapshot's value, enabled while the parameter is writable.
     void setEditorData(AbstractItemEditor::EditorData data) override;
+    //! "1" when checked, "0" when not.
     QVariant editorData() override;
 };

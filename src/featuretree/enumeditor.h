@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/enumeditor.h
+ * EnumEditor, the editor of enumerations.
+ */
 #pragma once
 
 #include "abstractitemeditor.h"
@@ -19,13 +23,23 @@ class ZVC_EXPORT EnumEditor : public QComboBox, public AbstractItemEditor
     Q_OBJECT
 
 public:
+    //! An empty, non-editable combo box.
     explicit EnumEditor(QWidget* parent = nullptr);
     ~EnumEditor() override;
 
+    /*!
+     * Lists the snapshot's entries and selects the current one; none where
+     * the parameter isn't readable or its value isn't among the entries.
+     * Enabled while the parameter is writable. A snapshot of another kind
+     * leaves the box empty.
+     */
     void setEditorData(AbstractItemEditor::EditorData data) override;
+    //! The symbolic value of the current entry, not its display text.
     QVariant editorData() override;
 
+    //! Opens the list and watches it, so that updates wait until it closes.
     void showPopup() override;
+    //! Notices the list closing; every other event goes to the base class.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/featuretreeinodeitem.h
+ * FeatureTreeINodeItem, the item of the feature tree that stands for one parameter.
+ */
 #pragma once
 
 #include "featuretreeitem.h"
@@ -17,6 +21,17 @@ class FeatureTreeModel;
  * parameter (properties when built, the last accepted snapshot since), so that
  * data() never reaches the device. Parameter and collection are shared with
  * the parameter layer; the item deletes neither. The highlighter is not owned.
+ *
+ * Column 0 shows the display name, with the unit in brackets, and a tool tip
+ * translated in the context of the node map (see GetNodemapName()). Column 1
+ * shows the snapshot's value text, or "<not implemented>", "<not readable>"
+ * or "<not available>"; nothing for a category or a boolean. A category
+ * fetches its children on the first childCount().
+ *
+ * Each new snapshot of the parameter is taken by onParameterDataChanged(),
+ * except that a writable integer or float whose value lies outside its range
+ * is written back to the nearer limit first. A node, or a snapshot, that is
+ * null leaves every role invalid.
  */
 class ZVC_EXPORT FeatureTreeINodeItem : public FeatureTreeItem
 {
@@ -33,22 +48,46 @@ public:
         const QString& fullName, FeatureTreeItem* parent, bool textAsUtf8);
     ~FeatureTreeINodeItem() override;
 
+    //! Deletes the children; a category doesn't fetch them again.
     void clearChildren() override;
+    //! Fetches a category's children through the model on the first call, then gives their number.
     int childCount() override;
+    //! What the row shows, from the cached properties and the last snapshot; never asks the parameter.
+    //! Column 1's display and edit roles give the value text while the snapshot is readable.
     QVariant data(int column, int role) const override;
     //! Writes to the parameter; throws what the parameter throws.
+    //!
+    //! Only column 1 and Qt::EditRole write, and only to a live, writable
+    //! parameter. A command is executed and marked pending, whatever the
+    //! value. Any other value is written as text with setValueFromString(),
+    //! its characters being the bytes of the text in UTF-8 or Latin-1 (as
+    //! chosen at construction), up to the first zero byte.
     void setData(int column, const QVariant& value, int role) override;
+    //! The item's row under its parent.
     int row() const override;
+    //! The parent item.
     FeatureTreeItem* parent() override;
+    //! The model the item belongs to.
     IFeatureTreeModelExtension* getExtension() override;
+    //! The model the item belongs to.
     const IFeatureTreeModelExtension* getExtension() const override;
+    //! The editor type of the node, fixed when the item was built.
     int editorType() const override;
+    //! True for a category, before anything is fetched, so that the view shows the expander.
     bool hasChildren() const override;
+    //! Always true at the Invisible level; otherwise an implemented feature whose visibility is at most visibility.
     bool ShowMe(GenApi::EVisibility visibility) const override;
+    //! The access mode of the last snapshot.
     GenApi::EAccessMode getAccessMode() const override;
+    //! The visibility of the last snapshot.
     GenApi::EVisibility getVisibility() const override;
+    //! Column 0 is selectable, enabled and draggable, except that a readable category can't be dragged;
+    //! column 1 is editable where the parameter is writable or keeps an editor open. None without a snapshot.
     Qt::ItemFlags flags(int column) const override;
+    //! The disabled text brush for a feature that isn't editable; nothing (the ordinary text) otherwise
+    //! and for a category.
     QVariant GetForegroundRole() const override;
+    //! The snapshot says writable, and the item has an editor type with an editor.
     bool isEditable() const override;
 
     using FeatureTreeItem::editorType;
@@ -57,18 +96,34 @@ public:
     //! The rule above on the item's node; 11 for null.
     static int editorType(const FeatureTreeINodeItem* item);
 
+    //! The parameter the item stands for; may be null.
     QSharedPointer<ParameterCollection::IParameter> node() const;
+    //! The last snapshot accepted; the placeholder snapshot where none could be read.
     QSharedPointer<const ParameterCollection::ParameterData> getParameterData() const;
+    //! The node map the parameter belongs to.
     QSharedPointer<ParameterCollection::IParameterCollection> collection() const;
 
+    //! The highlighter whose search text the tool tip marks; may be null; not owned.
     void setHighlighter(FeatureTreeHighlighter* highlighter);
+    //! The highlighter given to setHighlighter(); null before.
     FeatureTreeHighlighter* highlighter() const { return m_highlighterSet ? m_context->highlighter : nullptr; }
+    //! The translation context of the feature's tool tip: GetNodemapName() of the full name.
     QString translationContext() const;
 
 signals:
+    //! The item took a new snapshot. The model that built the item is told
+    //! directly as well (IFeatureTreeModelExtension::onNodeUpdated()).
     void nodeUpdated(int row, FeatureTreeINodeItem* item);
 
 public slots:
+    /*!
+     * Takes a new snapshot of the parameter, connected to its
+     * parameterDataChangedDecoupled(). Dropped while the model's callbacks
+     * are disabled. A writable integer or float whose value lies outside its
+     * range gets the nearer limit written instead, and the snapshot that
+     * write brings is taken in its place. Properties such as the unit are
+     * not read again.
+     */
     void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> data);
 
 private:

@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/featuretreemodel.h
+ * FeatureTreeModel, the item model behind every feature tree.
+ */
 #pragma once
 
 #include "favoritesdata.h"
@@ -26,6 +30,13 @@ class FeatureTreeHighlighter;
  *
  * Values written through setData() come back through the parameter's own
  * change signal: the model emits nothing for a write by itself.
+ *
+ * The tree has two columns, "Feature" and "Value". Under the invisible root
+ * stand the search result line, the favourites root and one item per node
+ * map. Polling, when on, polls the first node map every 300 ms on a
+ * single-shot timer that is armed again after each poll. A failing read or
+ * write is queued on the error queue (GetTheGlobalAsyncErrorQueue()); a run
+ * of failing reads gives one message.
  */
 class ZVC_EXPORT FeatureTreeModel : public QAbstractItemModel, public IFeatureTreeModelExtension
 {
@@ -36,27 +47,56 @@ public:
     struct NodemapListEntry
     {
         QString name; //!< as passed to addParameterCollection
-        QSharedPointer<ParameterCollection::IParameterCollection> collection;
+        QSharedPointer<ParameterCollection::IParameterCollection> collection; //!< the node map
     };
 
+    //! An empty model, polling off; the favourites branch comes with rebuildFavoriteItems().
     explicit FeatureTreeModel(QObject* parent = nullptr);
+    //! Stops polling, deletes every item and saves the favourites.
     ~FeatureTreeModel() override;
 
+    //! QObject's parent(), which parent(const QModelIndex&) would hide.
     using QObject::parent;
 
     // QAbstractItemModel
+    //! The index of a built child; invalid where there is none. Fetches nothing.
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
+    //! The index of the parent item in column 0; invalid for a top-level item.
     QModelIndex parent(const QModelIndex& index) const override;
+    //! The number of children, fetching a category's children on the first call.
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    //! Always 2.
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    //! True for the invisible root, also when it is empty, and for a category before it is fetched.
     bool hasChildren(const QModelIndex& parent = QModelIndex()) const override;
+    //! "Feature" and "Value" as horizontal display texts, translated.
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    //! The item's flags for the index's column; Qt::ItemIsEnabled for an invalid index.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
+    //! What the item shows. A read that throws gives an invalid QVariant and queues
+    //! one message for a run of failures (none for a GenICam::GenericException).
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /*!
+     * Writes a value of column 1 in Qt::EditRole to the parameter, unless the
+     * item shows that value already. False for any other cell or role, an
+     * invalid value, a gone device or a failed write; a failed write (other
+     * than a GenICam::GenericException) is queued on the error queue while
+     * the device is there. Emits nothing: the
+     * new value comes back through the parameter's change signal.
+     */
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    //! The base class's data plus "application/x-fti": the dragged items, valid only inside this process.
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    /*!
+     * Drops rows on the favourites: a dragged favourite moves to row, a
+     * dragged feature is added there (row -1 counts as the number of
+     * top-level rows, so past the end of a short list). The favourites
+     * branch is rebuilt once for the whole drop. Items that aren't in the
+     * built tree any more are passed over.
+     */
     bool dropMimeData(
         const QMimeData* data, Qt::DropAction action, int row, int column, const QModelIndex& parent) override;
+    //! Qt::MoveAction.
     Qt::DropActions supportedDropActions() const override;
 
     // IFeatureTreeModelExtension
@@ -100,8 +140,11 @@ public:
     int getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem* item) const override;
     int getFavoritesIndexFromModelIndex(QModelIndex index) const override;
 
+    //! False after SetDeviceAlive(false).
     bool isDeviceAlive() const { return m_deviceAlive; }
+    //! Whether poll ticks refresh instead of poll.
     bool isMonitorMode() const { return m_monitorMode; }
+    //! The node maps added, in order; clear() keeps them.
     QList<NodemapListEntry> nodemaps() const { return m_nodemaps; }
     //! The invisible root. Owned by the model.
     FeatureTreeItem* rootItem() const { return m_root; }
@@ -112,7 +155,11 @@ public:
 public slots:
     //! Deletes every item below the invisible root. Signals no reset: callers reset their views around it.
     void clear() override;
+    //! An item took a new snapshot: emits dataChanged() for column 0 and then column 1 of its row,
+    //! with no roles named, unless the device is gone.
     void onNodeUpdated(int row, FeatureTreeINodeItem* nodeItem) override;
+    //! One poll tick: polls (or, in monitor mode, refreshes) the first node map and arms the next
+    //! tick while polling is on. A failed poll is logged; polling goes on. Nothing happens once the device is gone.
     void onTimerPoll() override;
 
 private:

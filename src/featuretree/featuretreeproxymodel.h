@@ -1,3 +1,8 @@
+/*!
+ * \file featuretree/featuretreeproxymodel.h
+ * FeatureTreeProxyModel, the filter of the feature tree by user level and
+ * search text, with its match counts.
+ */
 #pragma once
 
 #include "ifeaturetreemodelextension.h"
@@ -26,30 +31,45 @@ class FeatureTreeModel;
  * The counts are a side effect of filtering: they cover the rows filtered
  * since the search text or the level changed or the mappings were last
  * dropped (invalidate(), a layout change, a reset).
+ *
+ * The search text is set with setFilterFixedString() and compared
+ * case-insensitively with each row's display text and name. A search help
+ * line (full name "Search") always passes the search; node map roots are
+ * never hits. Without a FeatureTreeModel as source, the extension's
+ * operations do nothing and give false, null, -1 or an invalid index.
  */
 class ZVC_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel, public IFeatureTreeModelExtension
 {
     Q_OBJECT
 
 public:
+    //! A proxy judging rows at the Guru level, with no source yet.
     explicit FeatureTreeProxyModel(QObject* parent = nullptr);
     ~FeatureTreeProxyModel() override;
 
+    //! QSortFilterProxyModel's parent(const QModelIndex&) and QObject's parent(),
+    //! which the overrides here would hide.
     using QSortFilterProxyModel::parent;
 
     // The model fills a category when its children are first counted, and
     // announces them. These count the source level first, so that the
     // announcement never arrives while the base class is mapping that very
     // parent: it would map it a second time and lose the first mapping.
+    //! The base class's index, after the source level below parent is filled.
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
+    //! The base class's row count, after the source level below parent is filled.
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    //! The base class's answer, after the source level below parent is filled.
     bool hasChildren(const QModelIndex& parent = QModelIndex()) const override;
 
+    //! Features that matched the search and show at the present level, each counted once by name.
     int getVisibleMatchCount() const;
+    //! Features that matched the search but need a higher level than the present one (up to Guru).
     int getInvisibleMatchCount() const;
 
     //! The source as a FeatureTreeModel; null if it isn't one.
     FeatureTreeModel* getFeatureTreeModel();
+    //! The source as a FeatureTreeModel; null if it isn't one.
     const FeatureTreeModel* getFeatureTreeModel() const;
 
     // IFeatureTreeModelExtension, forwarded to the source.
@@ -100,6 +120,11 @@ public:
     int getFavoritesIndexFromModelIndex(QModelIndex index) const override;
 
 protected:
+    /*!
+     * A row passes when it is a hit that the level shows, when one of its
+     * ancestors is, or when a descendant is; every row passes while a
+     * collection is being added. Counts the matches it meets.
+     */
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
     //! The row itself is a hit that the level shows; counts it as it goes.
     bool filterAcceptsRowItself(int sourceRow, const QModelIndex& sourceParent) const;

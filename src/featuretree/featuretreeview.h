@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/featuretreeview.h
+ * FeatureTreeView, the tree view of the feature tree.
+ */
 #pragma once
 
 #include "featuretreehighlighter.h"
@@ -22,20 +26,33 @@ class IFeatureTreeModelExtension;
  *
  * The view registers with the process-wide favourites store, which calls
  * back onFavoriteDataUpdated() and onFavoriteDataExpanded().
+ *
+ * The view's model is always the proxy. While the proxy offers no row at
+ * all, the view says "No search results found.". Selected rows are painted
+ * without the selection colour.
  */
 class ZVC_EXPORT FeatureTreeView : public QTreeView
 {
     Q_OBJECT
 
 public:
+    /*!
+     * A view at the Guru level with its own model, proxy and delegate,
+     * registered with the favourites store, which is loaded from the
+     * settings group "Favorites" by the first view of the process.
+     */
     explicit FeatureTreeView(QWidget* parent = nullptr);
+    //! Deregisters from the favourites store, which saves them, then deletes model and proxy.
     ~FeatureTreeView() override;
 
+    //! Not copyable.
     FeatureTreeView(const FeatureTreeView&) = delete;
+    //! Not copyable.
     FeatureTreeView& operator=(const FeatureTreeView&) = delete;
 
     //! The view's model as the extension; null when the view has no model.
     IFeatureTreeModelExtension* getFeatureExtension();
+    //! The view's model as the extension; null when the view has no model.
     const IFeatureTreeModelExtension* getFeatureExtension() const;
 
     //! The view's own highlighter, shared by pointer with the proxy and the delegate.
@@ -43,8 +60,10 @@ public:
 
     //! Where the favourites are kept; forwarded to the store.
     void setSettingsPath(QString const& path);
+    //! The settings group the favourites are saved to; empty without a model.
     QString getSettingsPath() const;
 
+    //! The user level that rows are shown for.
     GenApi::EVisibility getVisibility() const { return m_visibility; }
 
     /*!
@@ -69,6 +88,7 @@ public:
     void beginBulkChange();
     //! Ends a bracket; the last one opens the editors of every visible value row in one pass.
     void endBulkChange();
+    //! Inside a beginBulkChange() bracket.
     bool isInBulkChange() const { return m_bulkDepth > 0; }
     /*!
      * Editor visits (ranges times open editors) that a bulk change lets pass
@@ -78,18 +98,27 @@ public:
      * editors again. A larger budget lets a small tree keep its editors.
      */
     void setBulkEditorBudget(qint64 visits) { m_bulkEditorBudget = qMax<qint64>(0, visits); }
+    //! The editor visits a bulk change lets pass before it closes the editors.
     qint64 bulkEditorBudget() const { return m_bulkEditorBudget; }
     //! Opens the missing editors of the visible value rows below expanded parents, from `parent` down.
     void openVisibleEditors(QModelIndex const& parent = QModelIndex());
 
 signals:
+    //! The current row changed, also to none when the current row was hidden.
     void onCurrentChanged(QModelIndex current);
 
 public slots:
+    //! Shows the rows of this user level, rebuilding the favourites and refreshing the first node map.
+    //! Nothing happens for the level and model of the last call.
     void setVisibility(GenApi::EVisibility visibility);
+    //! A row was expanded: brings its children's rows and editors up to date; for the favourites root,
+    //! remembers that it is expanded.
     void onSelfExpanded(QModelIndex const& index);
+    //! A row was collapsed; for the favourites root, remembers that it is collapsed. Editors stay open.
     void onSelfCollapsed(QModelIndex const& index);
+    //! The favourites changed: rebuilds the branch and selects again, by full name, what was selected.
     void onFavoriteDataUpdated();
+    //! Expands or collapses the favourites root as the store says.
     void onFavoriteDataExpanded(bool bExpand);
 
 private slots:
@@ -97,20 +126,33 @@ private slots:
     void onModelLayoutChanged();
 
 protected:
+    /*!
+     * Repairs a changed row: spans full-row items, hides or shows the row for
+     * the level, and opens or closes its editor as the access mode and the
+     * level now allow.
+     */
     void dataChanged(QModelIndex const& topLeft, QModelIndex const& bottomRight,
         QVector<int> const& roles = QVector<int>()) override;
+    //! Opens the editors of the inserted rows.
     void rowsInserted(QModelIndex const& parent, int start, int end) override;
+    //! Closes the editors first where a bulk change calls for it.
     void rowsAboutToBeRemoved(QModelIndex const& parent, int start, int end) override;
+    //! Emits onCurrentChanged() first.
     void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
     // The item view's hook for the options its rows are painted with: a
     // function that returns them in Qt 5, one that fills them in in Qt 6.
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    //! The base class's options with a transparent highlight, so that selection doesn't colour the editors.
     QStyleOptionViewItem viewOptions() const override;
 #else
+    //! The base class's options with a transparent highlight, so that selection doesn't colour the editors.
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 #endif
+    //! Paints a selected row as if it were not selected, with no selection signal.
     void drawRow(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override;
+    //! Paints the rows, or "No search results found." when there are none.
     void paintEvent(QPaintEvent* event) override;
+    //! Places the editors once per turn of the event loop, however often it is asked.
     void updateEditorGeometries() override;
 
     //! Makes model, proxy and delegate; a subclass may make others.

@@ -1,3 +1,8 @@
+/*!
+ * \file featuretree/ifeaturetreecontrolservice.h
+ * Plugin::FeatureTree::IFeatureTreeControlService, through which a host's
+ * plug-ins steer a feature tree.
+ */
 #pragma once
 
 #include "parameters/genapienums.h"
@@ -29,6 +34,7 @@ public:
     virtual void deviceIsClosed() = 0;
 
 protected:
+    //! For the host's implementation.
     explicit IFeatureTreeControlService(QObject* parent = nullptr);
 };
 

@@ -1,3 +1,8 @@
+/*!
+ * \file featuretree/ifeaturetreestatusservice.h
+ * Plugin::FeatureTree::IFeatureTreeStatusService, a feature tree's news for a
+ * host's plug-ins.
+ */
 #pragma once
 
 #include "parameters/genapienums.h"
@@ -9,6 +14,7 @@
 #include <QString>
 
 namespace Plugin {
+//! The service interfaces around a feature tree, for a host's plug-ins.
 namespace FeatureTree {
 
 /*!
@@ -33,6 +39,7 @@ signals:
     void newText(QString text);
 
 protected:
+    //! For the host's implementation.
     explicit IFeatureTreeStatusService(QObject* parent = nullptr);
 };
 

@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/inteditor.h
+ * IntEditor, the text editor of integer parameters.
+ */
 #pragma once
 
 #include "abstractitemeditor.h"
@@ -17,9 +21,16 @@ class ZVC_EXPORT IntEditor : public QLineEdit, public AbstractItemEditor
     Q_OBJECT
 
 public:
+    //! A frameless line edit.
     explicit IntEditor(QWidget* parent = nullptr);
     ~IntEditor() override;
 
+    /*!
+     * Shows the snapshot's value text, or "<not readable>". The tool tip
+     * gives the range in decimal, or in hexadecimal for "HexNumber"; for
+     * "IPV4Address", "MACAddress" and "Boolean" it is empty and any validator
+     * is removed. A representation of another name changes nothing.
+     */
     void setEditorData(AbstractItemEditor::EditorData data) override;
     //! The text in the box, unchecked.
     QVariant editorData() override;

@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/searchpattern.h
+ * SearchPattern, the search filter of a proxy model read the same way on Qt 5 and Qt 6.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -31,17 +35,22 @@ public:
     //! The proxy's filter as it stands. previous is given back when the filter is
     //! still the one it was made from, which saves the work of reading it again.
     static SearchPattern ofProxy(const QSortFilterProxyModel& proxy, const SearchPattern& previous);
+    //! The proxy's filter as it stands.
     static SearchPattern ofProxy(const QSortFilterProxyModel& proxy) { return ofProxy(proxy, SearchPattern()); }
 
     //! The text is found in text (or the expression matches somewhere in it).
     bool matches(const QString& text) const;
 
+    //! The filter is a plain text, found by a substring search.
     bool isFixedString() const { return m_fixed; }
     //! The fixed text, or the expression's pattern.
     const QString& text() const { return m_text; }
+    //! Whether upper and lower case are told apart.
     Qt::CaseSensitivity caseSensitivity() const { return m_sensitivity; }
 
+    //! The same kind, text, case sensitivity and, for an expression, the same options.
     bool operator==(const SearchPattern& other) const;
+    //! Not operator==().
     bool operator!=(const SearchPattern& other) const { return !(*this == other); }
 
     //! Reverses QRegularExpression::escape(): true, with the plain text in

@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/signalblocker.h
+ * SignalBlocker, a scope guard that blocks an object's signals.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -13,10 +17,14 @@ class QObject;
 class ZVC_EXPORT SignalBlocker
 {
 public:
+    //! Blocks the signals of object, which may be null.
     explicit SignalBlocker(QObject* object);
+    //! Restores the object's former blocking state.
     ~SignalBlocker();
 
+    //! Not copyable: one guard, one scope.
     SignalBlocker(const SignalBlocker&) = delete;
+    //! Not copyable: one guard, one scope.
     SignalBlocker& operator=(const SignalBlocker&) = delete;
 
 private:

@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/toolbuttoneditor.h
+ * ToolButtonEditor, the editor of commands.
+ */
 #pragma once
 
 #include "abstractitemeditor.h"
@@ -16,9 +20,12 @@ class ZVC_EXPORT ToolButtonEditor : public QToolButton, public AbstractItemEdito
     Q_OBJECT
 
 public:
+    //! A checkable button labelled "Execute".
     explicit ToolButtonEditor(QWidget* parent = nullptr);
     ~ToolButtonEditor() override;
 
+    //! Keeps the command and holds the button down while the snapshot says it isn't done;
+    //! enabled while the command is writable. A parameter of another kind changes nothing.
     void setEditorData(AbstractItemEditor::EditorData data) override;
     /*!
      * Clears the command's pending state, whatever the button shows, and gives

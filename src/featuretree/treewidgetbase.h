@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/treewidgetbase.h
+ * TreeWidgetBase, the saved column widths of a widget around a QTreeView.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -24,6 +28,7 @@ class ZVC_EXPORT TreeWidgetBase : public QWidget
     Q_OBJECT
 
 public:
+    //! A plain widget; the subclass supplies the tree.
     explicit TreeWidgetBase(QWidget* parent = nullptr);
     ~TreeWidgetBase() override;
 

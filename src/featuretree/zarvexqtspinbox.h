@@ -1,3 +1,7 @@
+/*!
+ * \file featuretree/zarvexqtspinbox.h
+ * ZarvexQtSpinBox, the integer spin box of ComboSlider.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -15,8 +19,10 @@ class ZVC_EXPORT ZarvexQtSpinBox : public QSpinBox
     Q_OBJECT
 
 public:
+    //! A spin box with a page of 10 single steps.
     explicit ZarvexQtSpinBox(QWidget* parent = nullptr);
 
+    //! Steps as QSpinBox does, by a page after a page key, then emits editingFinished().
     void stepBy(int steps) override;
     //! As QSpinBox's, but -2147483648 too is shown without group separators unless they are asked for.
     QString textFromValue(int value) const override;
@@ -27,5 +33,6 @@ public:
     bool pageKeyPressed = false;
 
 protected:
+    //! Marks page keys, turns Escape into undo of the edit, and keeps Return and Enter from travelling on.
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -1,3 +1,11 @@
+/*!
+ * \file messages/exceptionlogging.h
+ * The library's logging of caught exceptions: ZVC_LOGGER, the QDebug output
+ * of a std::exception and the functions of ExceptionLogging.
+ *
+ * Every function that calls the parameter layer catches at its own boundary
+ * and leaves two warnings: its own sentence, then the cause.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -19,6 +27,7 @@
  */
 ZVC_EXPORT QDebug operator<<(QDebug debug, const std::exception& e);
 
+//! The two-line logging pattern for caught exceptions.
 namespace ExceptionLogging {
 
 /*!

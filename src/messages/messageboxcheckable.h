@@ -1,3 +1,7 @@
+/*!
+ * \file messages/messageboxcheckable.h
+ * MessageBoxCheckable, a message box the user can silence for good.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -29,6 +33,7 @@ class ZVC_EXPORT MessageBoxCheckable : public QMessageBox
     Q_OBJECT
 
 public:
+    //! A plain box named by settingsKey; reads the answer stored under that key, if any.
     explicit MessageBoxCheckable(const QString& settingsKey, QWidget* parent = nullptr);
     //! Replaces the standard icon with the library's own; NoIcon shows none.
     MessageBoxCheckable(const QString& settingsKey, QMessageBox::Icon icon, const QString& title, const QString& text,
@@ -37,10 +42,12 @@ public:
 
     //! The results worth storing; empty at first, so that nothing is stored.
     QFlags<QMessageBox::StandardButton> saveResultOnButton() const;
+    //! Sets the standard buttons whose result is worth storing.
     void setSaveResultOnButton(QFlags<QMessageBox::StandardButton> buttons);
     //! Adds a button, typically a custom one, whose click is worth storing.
     void setSaveResultOnButton(QAbstractButton* button);
 
+    //! The text of the check box; "&Don't show this dialog again" by default.
     QString checkBoxText() const;
     //! An empty text brings back the default sentence.
     void setCheckBoxText(const QString& text);

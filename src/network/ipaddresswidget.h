@@ -1,3 +1,7 @@
+/*!
+ * \file network/ipaddresswidget.h
+ * IpAddressWidget, the dialog that asks for a camera's IP configuration.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -30,55 +34,84 @@ class Ui_IpAddressWidgetClass;
 class ZVC_EXPORT IpAddressWidget : public QDialog
 {
     Q_OBJECT
+    //! The text of the address field.
     Q_PROPERTY(QString ipAddress READ ipAddress WRITE setIpAddress)
+    //! The text of the subnet mask field.
     Q_PROPERTY(QString subnetMask READ subnetMask WRITE setSubnetMask)
+    //! The text of the default gateway field.
     Q_PROPERTY(QString defaultGateway READ defaultGateway WRITE setDefaultGateway)
+    //! The text of the MAC address field.
     Q_PROPERTY(QString macAddress READ macAddress WRITE setMacAddress)
+    //! Whether the MAC address row is shown; off at first.
     Q_PROPERTY(bool showMacAddress READ showMacAddress WRITE setShowMacAddress)
+    //! Kept for the getter and handed on to the address field's validator, where it has one that takes it.
     Q_PROPERTY(bool allowBroadcastAddress READ allowBroadcastAddress WRITE setAllowBroadcastAddress)
+    //! Kept for the getter and handed on to the address field's validator, where it has one that takes it.
     Q_PROPERTY(bool allowMulticastAddress READ allowMulticastAddress WRITE setAllowMulticastAddress)
+    //! Kept for the getter and handed on to the address field's validator, where it has one that takes it.
     Q_PROPERTY(bool allowExperiemntalPurposeAddress READ allowExperiemntalPurposeAddress WRITE
             setAllowExperiemntalPurposeAddress)
 
 public:
+    //! An empty dialog titled "IP Address", with OK and Cancel, the MAC row hidden.
     explicit IpAddressWidget(QWidget* parent = nullptr);
     ~IpAddressWidget() override;
 
+    //! The text of the address field.
     QString ipAddress() const;
+    //! Sets the address field and judges OK again.
     void setIpAddress(const QString& address);
+    //! The text of the subnet mask field.
     QString subnetMask() const;
+    //! Sets the subnet mask field and judges OK again.
     void setSubnetMask(const QString& mask);
+    //! The text of the default gateway field.
     QString defaultGateway() const;
+    //! Sets the default gateway field and judges OK again.
     void setDefaultGateway(const QString& gateway);
+    //! The text of the MAC address field.
     QString macAddress() const;
+    //! Sets the MAC address field and judges OK again.
     void setMacAddress(const QString& address);
 
+    //! Whether the MAC address row is shown.
     bool showMacAddress() const;
     //! Shows or hides the MAC row; OK is judged again on the next edit or showing.
     void setShowMacAddress(bool show);
 
+    //! The flag as last set; false at first.
     bool allowBroadcastAddress() const;
+    //! Keeps the flag (see the class).
     void setAllowBroadcastAddress(bool allow);
+    //! The flag as last set; false at first.
     bool allowMulticastAddress() const;
+    //! Keeps the flag (see the class).
     void setAllowMulticastAddress(bool allow);
+    //! The flag as last set; false at first.
     bool allowExperiemntalPurposeAddress() const;
+    //! Keeps the flag (see the class).
     void setAllowExperiemntalPurposeAddress(bool allow);
 
     //! The sentence above the fields.
     QString headerText() const;
+    //! Sets the sentence above the fields; "Please specify an IP address." at first.
     void setHeaderText(const QString& text);
 
     //! The classful default mask: 255.0.0.0 for class A (and for an empty or
     //! unreadable text), 255.255.0.0 for B, 255.255.255.0 for C, and a null
     //! address for classes D and E, which have none.
     static QHostAddress subnetFromAddress(const QHostAddress& address);
+    //! The same for an address given as text.
     static QHostAddress subnetFromAddress(const QString& address);
 
 public slots:
+    //! Fills an empty gateway with 0.0.0.0, then accepts.
     void accept() override;
 
 protected:
+    //! Makes the mask and gateway suggestions active again and judges OK.
     void showEvent(QShowEvent* event) override;
+    //! Leaving the address field suggests mask and gateway; leaving the mask field turns "/24" into a dotted mask.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private slots:

@@ -1,3 +1,7 @@
+/*!
+ * \file network/qipaddressvalidator.h
+ * QIpAddressValidator, which judges a dotted IPv4 address as it is typed.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -19,7 +23,9 @@ class ZVC_EXPORT QIpAddressValidator : public QValidator
     Q_OBJECT
 
 public:
+    //! A validator with nothing to set.
     explicit QIpAddressValidator(QObject* parent = nullptr);
 
+    //! Invalid, Intermediate or Acceptable, as the class tells.
     State validate(QString& input, int& pos) const override;
 };

@@ -1,3 +1,7 @@
+/*!
+ * \file network/qipnetmaskvalidator.h
+ * QIpNetmaskValidator, which judges a subnet mask, dotted or as a prefix length.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -21,8 +25,12 @@ class ZVC_EXPORT QIpNetmaskValidator : public QValidator
     Q_OBJECT
 
 public:
+    //! A validator with nothing to set.
     explicit QIpNetmaskValidator(QObject* parent = nullptr);
 
+    //! Acceptable for a usable mask in either form; see the class for what is Intermediate.
     State validate(QString& input, int& pos) const override;
+    //! Turns the slash form of at most three characters into the dotted mask ("/24" into
+    //! "255.255.255.0"; a slash without a number counts as "/0"); leaves any other text alone.
     void fixup(QString& input) const override;
 };

@@ -1,3 +1,7 @@
+/*!
+ * \file network/qmacaddressvalidator.h
+ * QMacAddressValidator, which judges a MAC address as it is typed.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -17,15 +21,19 @@
 class ZVC_EXPORT QMacAddressValidator : public QValidator
 {
     Q_OBJECT
+    //! The characters allowed between the digits.
     Q_PROPERTY(QString allowedSeperators READ allowedSeperators WRITE setAllowedSeperators)
 
 public:
+    //! A validator allowing space, colon and hyphen as separators.
     explicit QMacAddressValidator(QObject* parent = nullptr);
 
+    //! Acceptable for twelve digits or an empty text, Intermediate for fewer, Invalid otherwise; see the class.
     State validate(QString& input, int& pos) const override;
 
     //! The characters allowed between the digits; space, colon and hyphen at first.
     QString allowedSeperators() const;
+    //! Sets the characters allowed between the digits.
     void setAllowedSeperators(QString seperators);
 
 private:

@@ -1,3 +1,8 @@
+/*!
+ * \file parameters/formatdoublevalue.h
+ * formatDoubleValue(), the number formatting of the float widgets' boxes and
+ * tool tips.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -11,6 +16,7 @@ enum FormatValueFlag {
     FormatFixed = 0x1, //!< ordinary values: fixed point with the given decimals
     FormatLarge = 0x2 //!< very large values: exponent notation with the given decimals
 };
+//! A combination of FormatValueFlag values.
 Q_DECLARE_FLAGS(FormatValueFlags, FormatValueFlag)
 Q_DECLARE_OPERATORS_FOR_FLAGS(FormatValueFlags)
 

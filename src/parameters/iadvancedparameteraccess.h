@@ -1,3 +1,7 @@
+/*!
+ * \file parameters/iadvancedparameteraccess.h
+ * ParameterCollection::IAdvancedParameterAccess, a parameter's properties as text.
+ */
 #pragma once
 
 #include "zarvexviewercomponents_export.h"
@@ -10,6 +14,8 @@ namespace ParameterCollection {
  * Properties of a parameter as text. Keys read by the library: "Unit",
  * "Description", "Tooltip", "DocuURL", "DisplayName", "Representation".
  * Keys written: "Visibility" and "AccessMode".
+ *
+ * Reached through IParameter::advancedAccess(). Every operation may throw.
  */
 class ZVC_EXPORT IAdvancedParameterAccess
 {
@@ -24,8 +30,11 @@ public:
     virtual void setProperty(QString key, QString value) = 0;
 
 protected:
+    //! For the implementations of the parameter layer.
     IAdvancedParameterAccess() = default;
+    //! Copies nothing: the interface has no data.
     IAdvancedParameterAccess(const IAdvancedParameterAccess&) = default;
+    //! Copies nothing: the interface has no data.
     IAdvancedParameterAccess& operator=(const IAdvancedParameterAccess&) = default;
 };
 

@@ -1,3 +1,7 @@
+/*!
+ * \file parameters/ibooleanparameter.h
+ * ParameterCollection::IBooleanParameter, the interface of boolean parameters.
+ */
 #pragma once
 
 #include "iparameter.h"
@@ -13,6 +17,7 @@ public:
     ~IBooleanParameter() override;
 
 protected:
+    //! For the implementations of the parameter layer.
     explicit IBooleanParameter(QObject* parent = nullptr);
 };
 

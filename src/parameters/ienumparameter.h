@@ -1,3 +1,7 @@
+/*!
+ * \file parameters/ienumparameter.h
+ * ParameterCollection::IEnumParameter, the interface of enumerations.
+ */
 #pragma once
 
 #include "iparameter.h"
@@ -13,6 +17,7 @@ public:
     ~IEnumParameter() override;
 
 protected:
+    //! For the implementations of the parameter layer.
     explicit IEnumParameter(QObject* parent = nullptr);
 };
 

@@ -1,3 +1,7 @@
+/*!
+ * \file parameters/ifloatparameter.h
+ * ParameterCollection::IFloatParameter, the interface of float parameters.
+ */
 #pragma once
 
 #include "iparameter.h"
@@ -12,13 +16,17 @@ class ZVC_EXPORT IFloatParameter : public IParameter
 public:
     ~IFloatParameter() override;
 
+    //! Writes the value to the device. Throws on rejection.
     virtual void setValue(double value) = 0;
     //! The current value, read from the device.
     virtual double getValue() const = 0;
+    //! The present lower limit, read from the device.
     virtual double getMinimum() const = 0;
+    //! The present upper limit, read from the device.
     virtual double getMaximum() const = 0;
 
 protected:
+    //! For the implementations of the parameter layer.
     explicit IFloatParameter(QObject* parent = nullptr);
 };
 

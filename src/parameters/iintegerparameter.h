@@ -1,3 +1,7 @@
+/*!
+ * \file parameters/iintegerparameter.h
+ * ParameterCollection::IIntegerParameter, the interface of integer parameters.
+ */
 #pragma once
 
 #include "iparameter.h"
@@ -16,10 +20,13 @@ public:
     virtual void setValue(qint64 value, bool verify) = 0;
     //! The current value, read from the device.
     virtual qint64 getValue() const = 0;
+    //! The present lower limit, read from the device.
     virtual qint64 getMinimum() const = 0;
+    //! The present upper limit, read from the device.
     virtual qint64 getMaximum() const = 0;
 
 protected:
+    //! For the implementations of the parameter layer.
     explicit IIntegerParameter(QObject* parent = nullptr);
 };
 

@@ -1,3 +1,7 @@
+/*!
+ * \file parameters/invalidargumentexception.h
+ * GenICam::InvalidArgumentException, for arguments out of range or form.
+ */
 #pragma once
 
 #include "genericexception.h"
@@ -8,6 +12,7 @@ namespace GenICam {
 class ZVC_EXPORT InvalidArgumentException : public GenericException
 {
 public:
+    //! An exception with message as its description, thrown at sourceFile and line.
     InvalidArgumentException(const char* message, const char* sourceFile, int line);
     ~InvalidArgumentException() override;
 };

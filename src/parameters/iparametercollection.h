@@ -1,3 +1,8 @@
+/*!
+ * \file parameters/iparametercollection.h
+ * ParameterCollection::IParameterCollection, one node map of a device: the
+ * interface a host implements to show its camera in a FeatureTreeWidget.
+ */
 #pragma once
 
 #include "iparameter.h"
@@ -12,6 +17,11 @@ namespace ParameterCollection {
 
 /*!
  * One node map. Every operation may throw.
+ *
+ * A host hands one collection per node map of its device ("@CameraDevice",
+ * "@DeviceTransportLayer", ...) to FeatureTreeWidget::addParameterCollection().
+ * The library calls it on the thread of the widgets only, holds it as a
+ * shared pointer and never deletes it.
  */
 class ZVC_EXPORT IParameterCollection : public QObject
 {
@@ -22,6 +32,7 @@ public:
 
     //! For a name the node map doesn't hold: null or a zombie.
     virtual QSharedPointer<IParameter> getParameter(QString fullName) = 0;
+    //! The node map holds a parameter of this full name; asked for "<full name>/Alias".
     virtual bool hasParameter(QString fullName) const = 0;
     //! Full names of the direct children of a category, in presentation order.
     //! The library always passes false and true as the flags.
@@ -32,6 +43,7 @@ public:
     virtual void poll(qint64 elapsedMilliseconds) = 0;
 
 protected:
+    //! For the implementations of the parameter layer.
     explicit IParameterCollection(QObject* parent = nullptr);
 };
 
