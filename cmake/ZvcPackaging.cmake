@@ -1,17 +1,18 @@
 # Debian packages through CPack: `cpack -G DEB` in a build directory makes
 #   lib<name><soversion>   the shared library (translations and icons are compiled into it)
 #   lib<name>-dev          headers, CMake package, pkg-config module, the .so link
-# with <name> the lower-cased ZVC_PACKAGE_NAME: zarvexviewercomponents on Qt 5,
-# zarvexviewercomponentsqt6 on Qt 6. The two Qt versions share no file, so
-# their packages install side by side.
+# with <name> the lower-cased ZVC_PACKAGE_NAME: zarvexviewercomponents on Qt 5
+# (libzarvexviewercomponents6), zarvexviewercomponentsqt6 on Qt 6
+# (libzarvexviewercomponentsqt6-6). The two Qt versions share no file, so their
+# packages install side by side.
 #
 # Configure with -DCMAKE_INSTALL_PREFIX=/usr so that GNUInstallDirs picks the
 # multiarch library directory (lib/x86_64-linux-gnu); any other prefix gives
 # plain lib/. The packages install under /usr either way, and the .pc file and
 # the CMake package find everything relative to themselves.
 #
-# The demo (component Demo) is not packaged: it needs the simulated camera's
-# data beside it and is no more than an example host.
+# The demo (component Demo) is not packaged: it is an example host, and the
+# Qt 5 and Qt 6 builds of it would both be /usr/bin/zarvex-viewer.
 
 set(ZVC_PACKAGE_MAINTAINER "ZarvexViewerComponents maintainers <maintainers@users.noreply.c-seed-1ffa6416.example>"
     CACHE STRING "Maintainer field of the Debian packages: Name <address>")
@@ -112,6 +113,8 @@ set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_SOURCE_GENERATOR "")
+set(CPACK_PROJECT_CONFIG_FILE "${PROJECT_SOURCE_DIR}/cmake/debian/cpack-options.cmake")
+set(CPACK_ZVC_BUILD_TESTS ${ZVC_BUILD_TESTS})
 
 set(CPACK_COMPONENTS_ALL Runtime Devel)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
