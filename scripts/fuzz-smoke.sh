@@ -10,12 +10,18 @@
 # caused it is kept in build-fuzz/artifacts/.
 #   scripts/fuzz-smoke.sh            180 seconds in all
 #   scripts/fuzz-smoke.sh 600        as long as you like, shared equally
-# ZVC_FUZZ_BUILD_DIR chooses another build directory.
+# ZVC_FUZZ_BUILD_DIR chooses another build directory; ZVC_FUZZ_QT_MAJOR_VERSION=6
+# builds the fuzzers against Qt 6 (default 5).
 set -euo pipefail
 
 seconds="${1:-180}"
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-"$root/scripts/setup.sh" clang-14 libclang-rt-14-dev
+qt="${ZVC_FUZZ_QT_MAJOR_VERSION:-5}"
+setup_arguments=(clang-14 libclang-rt-14-dev)
+if [ "$qt" = 6 ]; then
+    setup_arguments+=(--qt6)
+fi
+"$root/scripts/setup.sh" "${setup_arguments[@]}"
 
 fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators fuzz_favoritessettings fuzz_dropmime fuzz_devicejson)
 share=$(( seconds / ${#fuzzers[@]} ))
@@ -28,7 +34,7 @@ build="${ZVC_FUZZ_BUILD_DIR:-$root/build-fuzz}"
 cmake -S "$root" -B "$build" -G Ninja \
     -DCMAKE_CXX_COMPILER="$compiler" \
     -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DZVC_BUILD_FUZZERS=ON -DZVC_BUILD_TESTS=ON -DZVC_BUILD_VIEWER=OFF
+    -DZVC_BUILD_FUZZERS=ON -DZVC_BUILD_TESTS=ON -DZVC_BUILD_VIEWER=OFF -DZVC_QT_MAJOR_VERSION="$qt"
 cmake --build "$build" --parallel "$(nproc)" --target "${fuzzers[@]}"
 
 artifacts="$build/artifacts"
