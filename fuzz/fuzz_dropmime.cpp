@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QDataStream>
+#include <QIODevice>
 #include <QMimeData>
 
 #include <cstddef>
