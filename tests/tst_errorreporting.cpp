@@ -455,11 +455,15 @@ void TestErrorReporting::manyThreadsLoseNothing()
             }
         });
     }
-    // The GUI thread drains while the workers report.
-    while (receiver.received.count() < threadCount * reportsPerThread / 4)
+    // The GUI thread drains while the workers report. A lost report would
+    // keep the count short for ever: the wait ends at a deadline, and the
+    // workers are joined before the test can fail.
+    QDeadlineTimer deadline(60000);
+    while (receiver.received.count() < threadCount * reportsPerThread / 4 && !deadline.hasExpired())
         QCoreApplication::processEvents();
     for (auto& worker : workers)
         worker.join();
+    QVERIFY2(!deadline.hasExpired(), qPrintable(QString::number(receiver.received.count())));
     drain(&queue);
 
     QCOMPARE(receiver.received.count(), threadCount * reportsPerThread);

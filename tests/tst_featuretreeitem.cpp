@@ -604,7 +604,13 @@ void TestFeatureTreeItem::plainItemData()
     QCOMPARE(plain.data(0, FeatureTreeItem::VisibilityRole).toInt(), 99);
     QCOMPARE(plain.data(0, FeatureTreeItem::ItemIdRole).toUInt(),
         static_cast<unsigned int>(qHash(QStringLiteral("Full*Name"), 0)));
-    QCOMPARE(plain.data(0, FeatureTreeItem::ItemIdRole), plain.data(0, FeatureTreeItem::ItemIdRole));
+    // An unsigned int, the same on every request (a parameter item's is a new
+    // UUID each time), and another name's differs.
+    QCOMPARE(plain.data(0, FeatureTreeItem::ItemIdRole).userType(), int(QMetaType::UInt));
+    const QVariant otherId = FeatureTreeItem(QStringLiteral("Other"), nullptr, QStringLiteral("Other*Name"), nullptr)
+                                 .data(0, FeatureTreeItem::ItemIdRole);
+    QVERIFY(otherId.isValid());
+    QVERIFY(otherId != plain.data(0, FeatureTreeItem::ItemIdRole));
     QCOMPARE(plain.data(0, FeatureTreeItem::ShowMeRole).toBool(), false);
     plain.setVisibility(GenApi::Expert);
     QCOMPARE(plain.data(0, FeatureTreeItem::ShowMeRole).toBool(), true);

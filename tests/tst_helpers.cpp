@@ -92,8 +92,26 @@ void TestHelpers::signalBlockerNests()
 
 void TestHelpers::signalBlockerAcceptsNull()
 {
-    SignalBlocker blocker(nullptr);
-    QVERIFY(!signalsBlocked());
+    // A guard on nothing blocks nothing: signals of other objects and of the
+    // application go on while it lives and after it, and a guard on a real
+    // object beside it works as ever.
+    QObject object;
+    QSignalSpy renamed(&object, &QObject::objectNameChanged);
+    {
+        SignalBlocker blocker(nullptr);
+        QVERIFY(!QCoreApplication::instance()->signalsBlocked());
+        object.setObjectName(QStringLiteral("first"));
+        QCOMPARE(renamed.count(), 1);
+        {
+            SignalBlocker real(&object);
+            object.setObjectName(QStringLiteral("second"));
+            QCOMPARE(renamed.count(), 1);
+        }
+        object.setObjectName(QStringLiteral("third"));
+        QCOMPARE(renamed.count(), 2);
+    }
+    QVERIFY(!QCoreApplication::instance()->signalsBlocked());
+    QVERIFY(!object.signalsBlocked());
 }
 
 QTEST_GUILESS_MAIN(TestHelpers)

@@ -251,12 +251,22 @@ void TestSearchEdit::lensClickDoesNothing()
     QVERIFY(!clearAction(edit)->isVisible());
     QCOMPARE(differingPixels(snapshot(edit), before), 0);
 
-    // With text in the line the lens is hidden; the text survives a click
-    // where it stood, too.
+    // With text in the line the lens is hidden and the clear button takes its
+    // place; the hidden lens takes no click, and the text survives clicks
+    // sent to it.
+    const QRect lensPlace = lens->geometry();
     edit.setFocus();
     QTest::keyClicks(&edit, QStringLiteral("x"));
     QVERIFY(!lens->isVisible());
+    QToolButton* cross = buttonFor(edit, clearAction(edit));
+    QVERIFY(cross);
+    QTRY_VERIFY(cross->isVisible());
+    QCOMPARE(cross->geometry(), lensPlace);
+    QTest::mouseClick(lens, Qt::LeftButton, Qt::NoModifier, lens->rect().center());
+    QTest::mouseDClick(lens, Qt::LeftButton, Qt::NoModifier, lens->rect().center());
+    QCOMPARE(edit.text(), QStringLiteral("x"));
     QCOMPARE(triggered.count(), 0);
+    QCOMPARE(changes.count(), 1);
 }
 
 void TestSearchEdit::escapeIsLeftToTheParent()
@@ -371,9 +381,25 @@ void TestSearchEdit::setShadowDisplayStringDoesNotRepaint()
     QTest::qWait(50);
     QCOMPARE(edit.paints, 0);
 
-    // A repaint asked for by anything else shows the new hint.
+    // A repaint asked for by anything else shows the new hint: the line then
+    // looks as one made with that hint, and not as one with the old.
     edit.update();
     QTRY_VERIFY(edit.paints > 0);
+    SearchEdit withOther;
+    withOther.setShadowDisplayString(other);
+    showInWindow(withOther);
+    SearchEdit withOld;
+    withOld.setShadowDisplayString(hint);
+    showInWindow(withOld);
+    // Without focus, so that no cursor or focus frame tells them apart.
+    for (QLineEdit* line :
+        { static_cast<QLineEdit*>(&edit), static_cast<QLineEdit*>(&withOther), static_cast<QLineEdit*>(&withOld) }) {
+        line->setFocusPolicy(Qt::NoFocus);
+        line->clearFocus();
+    }
+    const QImage painted = snapshot(edit);
+    QCOMPARE(differingPixels(painted, snapshot(withOther)), 0);
+    QVERIFY(differingPixels(painted, snapshot(withOld)) > 0);
 }
 
 void TestSearchEdit::sizeHintIsTheHint_data()
