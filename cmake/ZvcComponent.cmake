@@ -1,6 +1,6 @@
 # zvc_add_component(<component> <target> INTERNAL <static library>
 #                   SOURCES ... PUBLIC_HEADERS ... EXPORT_MACRO_BASE <BASE>
-#                   DESCRIPTION <text> [PC_LIBS_PRIVATE ...])
+#                   DESCRIPTION <text> PUBLIC_CLASSES ... [PC_LIBS_PRIVATE ...])
 #
 # An optional component of the package: a shared library made of the
 # component's public classes (SOURCES) over its internal static library,
@@ -9,12 +9,16 @@
 # the package config loads only when a host asks for the component, and a
 # pkg-config module <target>[Qt6]. Only what carries the <BASE>_EXPORT macro
 # is visible: the internal classes stay in the static library, which the
-# project's tests, benchmarks and fuzzers link directly.
+# project's tests, benchmarks and fuzzers link directly. A linker version
+# script keeps the dynamic symbol table to PUBLIC_CLASSES (qualified names):
+# the standard library's templates, which are visible by their own
+# declaration, would otherwise be exported wherever the internals
+# instantiate them.
 #
 # Install components: <component> (the library) and <component>Devel (the rest).
 function(zvc_add_component component target)
-    cmake_parse_arguments(ARG "" "INTERNAL;EXPORT_MACRO_BASE;DESCRIPTION" "SOURCES;PUBLIC_HEADERS;PC_LIBS_PRIVATE"
-        ${ARGN})
+    cmake_parse_arguments(ARG "" "INTERNAL;EXPORT_MACRO_BASE;DESCRIPTION"
+        "SOURCES;PUBLIC_HEADERS;PUBLIC_CLASSES;PC_LIBS_PRIVATE" ${ARGN})
     string(TOLOWER "${component}" subdir)
     string(TOLOWER "${target}" lower)
     set(library ${target}${ZVC_NAME_SUFFIX})
@@ -39,6 +43,16 @@ function(zvc_add_component component target)
     # The internal library's headers include the public ones, export macro and all.
     target_include_directories(${ARG_INTERNAL} PUBLIC ${CMAKE_CURRENT_BINARY_DIR})
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+
+    # Methods, vtables, type information and meta-objects of the public classes.
+    set(patterns "")
+    foreach(class IN LISTS ARG_PUBLIC_CLASSES)
+        string(APPEND patterns "      *${class}::*;\n      *for?${class};\n")
+    endforeach()
+    set(version_script ${CMAKE_CURRENT_BINARY_DIR}/${lower}.map)
+    file(WRITE ${version_script} "{\n  global:\n    extern \"C++\" {\n${patterns}    };\n  local: *;\n};\n")
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${version_script}")
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${version_script})
 
     install(TARGETS ${target}
         EXPORT ${ZVC_PACKAGE_NAME}${component}Targets

@@ -14,8 +14,10 @@
 #include "parameters/iparameter.h"
 #include "parameters/iparametercollection.h"
 
+#include <QAbstractProxyModel>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QTreeView>
 #include <QtTest>
 
 using namespace ParameterCollection;
@@ -103,19 +105,23 @@ void TestCameras::unplugAnnouncesTheLossFromTheEventLoop()
 {
     auto camera = Simulation::SimulatedCamera::createDefault();
     QSignalSpy lost(camera.get(), &Simulation::SimulatedCamera::lost);
+    const auto width = camera->nodeMap(QStringLiteral("@CameraDevice"))->getParameter(QStringLiteral("Width"));
     QVERIFY(camera->isPlugged());
     camera->unplug();
     QVERIFY(!camera->isPlugged());
     QCOMPARE(lost.count(), 0); // not from inside the call
     QTRY_COMPARE(lost.count(), 1);
     QVERIFY(!lost.first().first().toString().isEmpty());
-    QVERIFY(camera->nodeMap(QStringLiteral("@CameraDevice"))->getParameter(QStringLiteral("Width"))->isZombie());
+    QVERIFY(width->isZombie());
+    // Every node map operation but hasParameter throws now.
+    QVERIFY_EXCEPTION_THROWN(
+        camera->nodeMap(QStringLiteral("@CameraDevice"))->getParameter(QStringLiteral("Width")), std::exception);
     camera->unplug(); // already gone: no second announcement
     QTest::qWait(20);
     QCOMPARE(lost.count(), 1);
     camera->replug();
     QVERIFY(camera->isPlugged());
-    QVERIFY(!camera->nodeMap(QStringLiteral("@CameraDevice"))->getParameter(QStringLiteral("Width"))->isZombie());
+    QVERIFY(!width->isZombie());
 }
 
 void TestCameras::failingWritesAndChangesOnTheDevice()
@@ -144,7 +150,9 @@ void TestCameras::treeShowsTheCameraAndTakesItsLoss()
     tree.setPolling(true);
     // One top-level row per node map, and the favourites.
     QCOMPARE(tree.treeView()->model()->rowCount(), camera->nodeMaps().size() + 1);
-    auto* model = dynamic_cast<FeatureTreeModel*>(tree.getFeatureExtension());
+    auto* proxy = qobject_cast<QAbstractProxyModel*>(tree.treeView()->model());
+    QVERIFY(proxy);
+    auto* model = qobject_cast<FeatureTreeModel*>(proxy->sourceModel());
     QVERIFY(model);
     QVERIFY(model->isDeviceAlive());
     camera->unplug();
