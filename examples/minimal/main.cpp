@@ -1,4 +1,3 @@
-// The features of the first camera that Aravis finds (or of the one named by its id) in a FeatureTreeWidget.
 #include <QApplication>
 #include <QMessageBox>
 #include <aravis/araviscamera.h>
@@ -18,6 +17,7 @@ int main(int argc, char** argv)
     FeatureTreeWidget tree(camera->info().model, camera->baseInfo());
     for (const auto& nodeMap : camera->nodeMaps())
         tree.addParameterCollection(nodeMap.collection, nodeMap.rootName, nodeMap.name, false);
+    tree.expandTree();
     tree.setPolling(true);
     QObject::connect(camera.get(), &Aravis::AravisCamera::lost, &tree, &FeatureTreeWidget::deviceIsClosed);
     QObject::connect(GetTheGlobalAsyncErrorQueue(), &AsyncErrorQueue::displayError, &tree,
