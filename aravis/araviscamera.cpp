@@ -10,13 +10,12 @@ AravisCamera::AravisCamera(QSharedPointer<AravisDevice> device)
 {
     for (const QString& name : m_device->nodeMapNames()) {
         // Every node map of the device finds it gone together; the first word of it is enough.
-        connect(m_device->nodeMap(name).data(), &AravisNodeMap::lost, this,
-            [this](const QString& reason) {
-                if (m_lostAnnounced)
-                    return;
-                m_lostAnnounced = true;
-                emit lost(reason);
-            });
+        connect(m_device->nodeMap(name).data(), &AravisNodeMap::lost, this, [this](const QString& reason) {
+            if (m_lostAnnounced)
+                return;
+            m_lostAnnounced = true;
+            emit lost(reason);
+        });
     }
 }
 

@@ -230,7 +230,8 @@ void NodeMapState::noteControlLost()
 {
     m_controlLost = true;
     // The state's own thread turns the flag into the lost state and its signal.
-    QMetaObject::invokeMethod(this, [this] { isLost(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { isLost(); }, Qt::QueuedConnection);
 }
 
 bool NodeMapState::isLost() const
@@ -249,7 +250,8 @@ void NodeMapState::markLost(const QString& reason) const
     // Never from inside the call that found it out: a host that deletes its
     // tree on the signal must not do so under the tree's own poll.
     auto* self = const_cast<NodeMapState*>(this);
-    QMetaObject::invokeMethod(self, [self] { emit self->lost(self->m_lostReason); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        self, [self] { emit self->lost(self->m_lostReason); }, Qt::QueuedConnection);
 }
 
 // ---- look-ups ----------------------------------------------------------------
