@@ -120,6 +120,7 @@ QSharedPointer<AravisDevice> AravisDevice::open(const QString& id, QString* erro
                                : QStringLiteral("Aravis found no camera %1").arg(id);
         return {};
     }
+    DeviceInfo chosenInfo = *found;
     QString chosen = found->id;
     QString protocol = found->protocol;
     GError* gerror = nullptr;
@@ -129,6 +130,7 @@ QSharedPointer<AravisDevice> AravisDevice::open(const QString& id, QString* erro
         g_clear_error(&gerror);
         devices = listDevices();
         if ((found = findDevice(devices, id))) {
+            chosenInfo = *found;
             chosen = found->id;
             protocol = found->protocol;
             device = arv_open_device(chosen.toUtf8().constData(), &gerror);
@@ -144,6 +146,7 @@ QSharedPointer<AravisDevice> AravisDevice::open(const QString& id, QString* erro
     QSharedPointer<AravisDevice> opened(new AravisDevice(device, chosen, transportLayerTypeOf(protocol), &message));
     if (!opened->m_cameraNodeMap)
         return {};
+    opened->m_info = chosenInfo;
     return opened;
 }
 
@@ -163,6 +166,8 @@ QSharedPointer<AravisDevice> AravisDevice::fromGenICamXml(
         new AravisDevice(createSparseMemoryDevice(xml), QStringLiteral("memory"), transportLayerType, &message));
     if (!loaded->m_cameraNodeMap)
         return {};
+    loaded->m_info.id = loaded->m_id;
+    loaded->m_info.transportLayerType = transportLayerType;
     return loaded;
 }
 

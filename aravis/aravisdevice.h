@@ -1,5 +1,7 @@
 #pragma once
 
+#include "araviscamera.h"
+
 #include "parameters/ibaseinfo.h"
 #include "parameters/iparametercollection.h"
 
@@ -15,16 +17,7 @@ namespace Aravis {
 class AravisNodeMap;
 
 //! A camera that Aravis found, as arv_update_device_list() lists it.
-struct DeviceInfo
-{
-    QString id; //!< what open() takes
-    QString vendor;
-    QString model;
-    QString serialNumber;
-    QString protocol; //!< "GigEVision", "USB3Vision", ...
-    QString address;
-    QString transportLayerType; //!< "GEV", "U3V", ... as IBaseInfo gives it
-};
+using DeviceInfo = CameraInfo;
 
 /*!
  * One camera opened through Aravis (GigE Vision or USB3 Vision), or a
@@ -58,6 +51,8 @@ public:
         const QByteArray& xml, QString* error = nullptr, const QString& transportLayerType = QStringLiteral("Custom"));
 
     QString id() const { return m_id; }
+    //! What the look-up said about the camera; for a document of our own only id and transport-layer type.
+    DeviceInfo info() const { return m_info; }
     QString transportLayerType() const { return m_transportLayerType; }
     QStringList nodeMapNames() const;
     //! The node map by name ("@CameraDevice"), or null.
@@ -71,6 +66,7 @@ private:
 
     _ArvDevice* m_device = nullptr;
     QString m_id;
+    DeviceInfo m_info;
     QString m_transportLayerType;
     QSharedPointer<AravisNodeMap> m_cameraNodeMap;
     QSharedPointer<Plugin::CameraPool::IBaseInfo> m_baseInfo;

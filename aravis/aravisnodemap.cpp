@@ -8,6 +8,7 @@ AravisNodeMap::AravisNodeMap(QSharedPointer<NodeMapState> state, QObject* parent
     : IParameterCollection(parent)
     , m_state(std::move(state))
 {
+    connect(m_state.data(), &NodeMapState::lost, this, &AravisNodeMap::lost);
 }
 
 AravisNodeMap::~AravisNodeMap() = default;

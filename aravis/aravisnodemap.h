@@ -36,6 +36,10 @@ public:
     void refreshAll() override;
     void poll(qint64 elapsedMilliseconds) override;
 
+signals:
+    //! The device is gone; emitted once, from the event loop.
+    void lost(const QString& reason);
+
 private:
     QSharedPointer<NodeMapState> m_state;
 };

@@ -226,6 +226,14 @@ NodeMapState::~NodeMapState()
     g_object_unref(m_device);
 }
 
+void NodeMapState::noteControlLost()
+{
+    m_controlLost = true;
+    // The state's own thread turns the flag into the lost state and its signal.
+    QMetaObject::invokeMethod(
+        this, [this] { isLost(); }, Qt::QueuedConnection);
+}
+
 bool NodeMapState::isLost() const
 {
     if (!m_lost && m_controlLost.load())
@@ -239,6 +247,11 @@ void NodeMapState::markLost(const QString& reason) const
         return;
     m_lost = true;
     m_lostReason = reason;
+    // Never from inside the call that found it out: a host that deletes its
+    // tree on the signal must not do so under the tree's own poll.
+    auto* self = const_cast<NodeMapState*>(this);
+    QMetaObject::invokeMethod(
+        self, [self] { emit self->lost(self->m_lostReason); }, Qt::QueuedConnection);
 }
 
 // ---- look-ups ----------------------------------------------------------------

@@ -51,7 +51,7 @@ public:
     const GenICamXmlIndex& xmlIndex() const { return m_index; }
     bool isLost() const;
     //! Called from Aravis's heartbeat thread when the device stops answering.
-    void noteControlLost() { m_controlLost = true; }
+    void noteControlLost();
 
     // ---- the collection's operations
     QSharedPointer<ParameterCollection::IParameter> parameter(const QString& name);
@@ -78,6 +78,10 @@ public:
     void setProperty(int index, const QString& fullName, const QString& key, const QString& value);
 
     enum Which { Value, Minimum, Maximum };
+
+signals:
+    //! The device is gone; emitted once, from the event loop of the state's thread.
+    void lost(const QString& reason);
 
 private:
     struct Entry

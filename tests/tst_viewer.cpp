@@ -10,7 +10,7 @@
 #include "featuretree/featuretreewidget.h"
 #include "featuretree/ifeaturetreemodelextension.h"
 #include "network/ipaddresswidget.h"
-#include "simulateddevice.h"
+#include "simulatedcamera.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -4,11 +4,10 @@
 #include "nodemapprinter.h"
 #include "viewermainwindow.h"
 
-#include "simulateddevice.h"
+#include "simulatedcamera.h"
 
 #ifdef ZVC_WITH_ARAVIS
-#include "aravisdevice.h"
-#include "aravisnodemap.h"
+#include "araviscamera.h"
 #endif
 
 #include <QApplication>
@@ -141,11 +140,11 @@ int main(int argc, char** argv)
     if (parser.isSet(aravisOption)) {
 #ifdef ZVC_WITH_ARAVIS
         const QStringList ids = parser.positionalArguments();
-        const QList<Aravis::DeviceInfo> cameras = Aravis::AravisDevice::listDevices();
-        for (const Aravis::DeviceInfo& camera : cameras)
+        const QList<Aravis::CameraInfo> cameras = Aravis::AravisCamera::listCameras();
+        for (const Aravis::CameraInfo& camera : cameras)
             out << "Found " << camera.id << " (" << camera.protocol << ", " << camera.address << ")\n";
         QString error;
-        const auto camera = Aravis::AravisDevice::open(ids.value(0), &error);
+        const auto camera = Aravis::AravisCamera::open(ids.value(0), &error);
         if (!camera) {
             err << "zarvex-viewer: " << error << '\n';
             return 1;
@@ -162,17 +161,17 @@ int main(int argc, char** argv)
 #endif
     }
 
-    QSharedPointer<Simulation::SimulatedDevice> device;
+    std::unique_ptr<Simulation::SimulatedCamera> device;
     if (parser.isSet(deviceOption)) {
         QString error;
         device
-            = Simulation::SimulatedDevice::fromFile(parser.value(deviceOption), &error, parser.value(transportOption));
+            = Simulation::SimulatedCamera::fromFile(parser.value(deviceOption), &error, parser.value(transportOption));
         if (!device) {
             err << "zarvex-viewer: " << error << '\n';
             return 1;
         }
     } else {
-        device = Simulation::SimulatedDevice::createDefault(parser.value(transportOption));
+        device = Simulation::SimulatedCamera::createDefault(parser.value(transportOption));
     }
 
     out << "Simulated camera, transport layer " << device->transportLayerType() << '\n';

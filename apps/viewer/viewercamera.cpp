@@ -1,36 +1,38 @@
 #include "viewercamera.h"
 
-#include "simulateddevice.h"
+#include "simulatedcamera.h"
 
 #ifdef ZVC_WITH_ARAVIS
-#include "aravisdevice.h"
-#include "aravisnodemap.h"
+#include "araviscamera.h"
 #endif
 
-template <typename Device> void ViewerCamera::adopt(const Device& device)
+template <typename Camera> void ViewerCamera::adopt(const Camera& camera)
 {
-    if (!device)
+    if (!camera)
         return;
-    m_nodeMapNames = device->nodeMapNames();
+    m_nodeMapNames = camera->nodeMapNames();
     for (const QString& name : m_nodeMapNames)
-        m_nodeMaps.insert(name, device->nodeMap(name));
-    m_baseInfo = device->baseInfo();
-    m_transportLayerType = device->transportLayerType();
+        m_nodeMaps.insert(name, camera->nodeMap(name));
+    m_baseInfo = camera->baseInfo();
+    m_transportLayerType = camera->transportLayerType();
+    connect(camera.get(), &std::decay_t<decltype(*camera)>::lost, this, &ViewerCamera::lost);
 }
 
-ViewerCamera::ViewerCamera(QSharedPointer<Simulation::SimulatedDevice> device)
-    : m_simulated(std::move(device))
+ViewerCamera::ViewerCamera(std::unique_ptr<Simulation::SimulatedCamera> camera)
+    : m_simulated(std::move(camera))
 {
     adopt(m_simulated);
 }
 
 #ifdef ZVC_WITH_ARAVIS
-ViewerCamera::ViewerCamera(QSharedPointer<Aravis::AravisDevice> device)
-    : m_aravis(std::move(device))
+ViewerCamera::ViewerCamera(std::unique_ptr<Aravis::AravisCamera> camera)
+    : m_aravis(std::move(camera))
 {
     adopt(m_aravis);
 }
 #endif
+
+ViewerCamera::~ViewerCamera() = default;
 
 QStringList ViewerCamera::nodeMapNames() const
 {
@@ -52,7 +54,7 @@ QString ViewerCamera::transportLayerType() const
     return m_transportLayerType;
 }
 
-Simulation::SimulatedDevice* ViewerCamera::simulation() const
+Simulation::SimulatedCamera* ViewerCamera::simulation() const
 {
-    return m_simulated.data();
+    return m_simulated.get();
 }

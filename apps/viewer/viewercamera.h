@@ -4,45 +4,55 @@
 #include "parameters/iparametercollection.h"
 
 #include <QHash>
+#include <QObject>
 #include <QSharedPointer>
 #include <QStringList>
 
+#include <memory>
+
 namespace Simulation {
-class SimulatedDevice;
+class SimulatedCamera;
 }
 #ifdef ZVC_WITH_ARAVIS
 namespace Aravis {
-class AravisDevice;
+class AravisCamera;
 }
 #endif
 
 /*!
  * An open camera as the viewer sees it: node maps by name, the camera's
- * information, and the simulated device behind it when there is one, so that
- * the Simulate menu can make it misbehave.
+ * information, and the simulated camera behind it when there is one, so that
+ * the Simulate menu can make it misbehave. lost() comes from either kind.
  */
-class ViewerCamera
+class ViewerCamera : public QObject
 {
+    Q_OBJECT
+
 public:
-    explicit ViewerCamera(QSharedPointer<Simulation::SimulatedDevice> device);
+    explicit ViewerCamera(std::unique_ptr<Simulation::SimulatedCamera> camera);
 #ifdef ZVC_WITH_ARAVIS
-    explicit ViewerCamera(QSharedPointer<Aravis::AravisDevice> device);
+    explicit ViewerCamera(std::unique_ptr<Aravis::AravisCamera> camera);
 #endif
+    ~ViewerCamera() override;
 
     QStringList nodeMapNames() const;
     QSharedPointer<ParameterCollection::IParameterCollection> nodeMap(const QString& name) const;
     QSharedPointer<Plugin::CameraPool::IBaseInfo> baseInfo() const;
     QString transportLayerType() const;
     //! Null for a real camera.
-    Simulation::SimulatedDevice* simulation() const;
+    Simulation::SimulatedCamera* simulation() const;
+
+signals:
+    //! The camera went away.
+    void lost(const QString& reason);
 
 private:
-    //! Takes what the viewer needs from either kind of device once, when it is opened.
-    template <typename Device> void adopt(const Device& device);
+    //! Takes what the viewer needs from either kind of camera once, when it is opened.
+    template <typename Camera> void adopt(const Camera& camera);
 
-    QSharedPointer<Simulation::SimulatedDevice> m_simulated;
+    std::unique_ptr<Simulation::SimulatedCamera> m_simulated;
 #ifdef ZVC_WITH_ARAVIS
-    QSharedPointer<Aravis::AravisDevice> m_aravis;
+    std::unique_ptr<Aravis::AravisCamera> m_aravis;
 #endif
     QStringList m_nodeMapNames;
     QHash<QString, QSharedPointer<ParameterCollection::IParameterCollection>> m_nodeMaps;

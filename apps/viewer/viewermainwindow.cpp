@@ -12,10 +12,10 @@
 #include "network/ipaddresswidget.h"
 #include "parameters/iintegerparameter.h"
 #include "parameters/parameterdata.h"
-#include "simulateddevice.h"
+#include "simulatedcamera.h"
 
 #ifdef ZVC_WITH_ARAVIS
-#include "aravisdevice.h"
+#include "araviscamera.h"
 #endif
 
 #include <QActionGroup>
@@ -133,7 +133,7 @@ void ViewerMainWindow::addCameraEntry(const QString& text, CameraKind kind, cons
 bool ViewerMainWindow::addDeviceFile(const QString& path, QString* error)
 {
     QString reason;
-    if (!Simulation::SimulatedDevice::fromFile(path, &reason)) {
+    if (!Simulation::SimulatedCamera::fromFile(path, &reason)) {
         qWarning("zarvex-viewer: the device description %s is refused: %s", qPrintable(path), qPrintable(reason));
         if (error)
             *error = reason;
@@ -149,14 +149,14 @@ void ViewerMainWindow::discoverAravisCameras()
 #ifdef ZVC_WITH_ARAVIS
     // Discovery takes about a second: it runs on a thread of its own while the
     // status bar shows that the viewer is looking.
-    auto found = QSharedPointer<QList<Aravis::DeviceInfo>>::create();
-    QThread* thread = QThread::create([found] { *found = Aravis::AravisDevice::listDevices(); });
+    auto found = QSharedPointer<QList<Aravis::CameraInfo>>::create();
+    QThread* thread = QThread::create([found] { *found = Aravis::AravisCamera::listCameras(); });
     statusBar()->showMessage(tr("Looking for cameras..."));
     m_busyBar->show();
     connect(thread, &QThread::finished, this, [this, found, thread] {
         m_busyBar->hide();
         statusBar()->showMessage(tr("%n camera(s) found", nullptr, found->size()), 5000);
-        for (const Aravis::DeviceInfo& info : *found)
+        for (const Aravis::CameraInfo& info : *found)
             addCameraEntry(
                 QStringLiteral("%1 %2 (%3)").arg(info.vendor, info.model, info.address), AravisCamera, info.id);
         thread->deleteLater();
@@ -173,10 +173,10 @@ QSharedPointer<ViewerCamera> ViewerMainWindow::createCamera(int row, QString* er
     const QString source = item->data(SourceRole).toString();
     switch (item->data(KindRole).toInt()) {
     case SimulatedCamera:
-        return QSharedPointer<ViewerCamera>::create(Simulation::SimulatedDevice::createDefault(source));
+        return QSharedPointer<ViewerCamera>::create(Simulation::SimulatedCamera::createDefault(source));
     case DescribedCamera: {
-        auto device = Simulation::SimulatedDevice::fromFile(source, error);
-        return device ? QSharedPointer<ViewerCamera>::create(device) : QSharedPointer<ViewerCamera>();
+        auto camera = Simulation::SimulatedCamera::fromFile(source, error);
+        return camera ? QSharedPointer<ViewerCamera>::create(std::move(camera)) : QSharedPointer<ViewerCamera>();
     }
 #ifdef ZVC_WITH_ARAVIS
     case AravisCamera: {
@@ -185,8 +185,8 @@ QSharedPointer<ViewerCamera> ViewerMainWindow::createCamera(int row, QString* er
         progress.setMinimumDuration(0);
         progress.show();
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        auto device = Aravis::AravisDevice::open(source, error);
-        return device ? QSharedPointer<ViewerCamera>::create(device) : QSharedPointer<ViewerCamera>();
+        auto camera = Aravis::AravisCamera::open(source, error);
+        return camera ? QSharedPointer<ViewerCamera>::create(std::move(camera)) : QSharedPointer<ViewerCamera>();
     }
 #endif
     default:
@@ -210,6 +210,12 @@ bool ViewerMainWindow::openCamera(int row)
     m_openRow = row;
 
     auto* tree = new FeatureTreeWidget(QStringLiteral("zarvex-viewer"), camera->baseInfo(), ui->treeHolder);
+    // The tree keeps its last values and stops asking a camera that is gone.
+    connect(camera.data(), &ViewerCamera::lost, tree, [this, tree](const QString& reason) {
+        tree->deviceIsClosed();
+        statusBar()->showMessage(tr("The camera is gone: %1").arg(reason));
+        updateActions();
+    });
     tree->setObjectName(QStringLiteral("featureTree"));
     m_tree = tree;
     ui->treeLayout->addWidget(tree);
@@ -511,8 +517,11 @@ void ViewerMainWindow::on_actionReplug_triggered()
 {
     if (m_camera && m_camera->simulation())
         m_camera->simulation()->replug();
-    if (m_tree)
+    if (m_tree) {
+        // Undoes the deviceIsClosed() that the camera's loss brought.
+        m_tree->getFeatureExtension()->SetDeviceAlive(true);
         m_tree->Refresh();
+    }
     statusBar()->showMessage(tr("The camera is plugged in again"), 5000);
     updateActions();
 }
@@ -527,9 +536,7 @@ void ViewerMainWindow::on_actionFault_triggered()
     // A failure of the plain std::exception kind: the model reports those through the error queue,
     // so the user sees the dialog, where a refused GenICam write is only declined.
     const QString fullName = node->getFullName();
-    for (Simulation::Operation operation :
-        { Simulation::Operation::SetValueFromString, Simulation::Operation::SetValue, Simulation::Operation::Execute })
-        m_camera->simulation()->injectFault(fullName, operation, Simulation::FaultKind::StdException);
+    m_camera->simulation()->makeWritesFail(fullName);
     statusBar()->showMessage(tr("Writing %1 now fails").arg(fullName), 5000);
 }
 

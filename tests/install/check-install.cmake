@@ -1,8 +1,11 @@
 # Installs the library into a scratch prefix, then builds and runs a host
 # against it twice: once through the CMake package, once through pkg-config.
+# Then the example hosts (EXAMPLES_DIR), both ways as well, from the installed
+# components, and the components' exported symbols.
 # Run with -DBUILD_DIR=... -DSOURCE_DIR=... -DWORK_DIR=... -DPACKAGE=...
+# [-DNAME_SUFFIX=Qt6] [-DWITH_ARAVIS=ON] [-DEXAMPLES_DIR=...]
 # PACKAGE is the installed name of the build: ZarvexViewerComponents on Qt 5,
-# ZarvexViewerComponentsQt6 on Qt 6.
+# ZarvexViewerComponentsQt6 on Qt 6; NAME_SUFFIX the components' suffix ("" or Qt6).
 if(NOT PACKAGE)
     set(PACKAGE ZarvexViewerComponents)
 endif()
@@ -30,7 +33,12 @@ foreach(expected
         lib/pkgconfig/${PACKAGE}.pc
         include/${PACKAGE}/zarvexviewercomponents_export.h
         include/${PACKAGE}/parameters/iparameter.h
-        include/${PACKAGE}/featuretree/featuretreewidget.h)
+        include/${PACKAGE}/featuretree/featuretreewidget.h
+        lib/libZarvexSimulation${NAME_SUFFIX}.so.6
+        lib/cmake/${PACKAGE}/${PACKAGE}SimulationTargets.cmake
+        lib/pkgconfig/ZarvexSimulation${NAME_SUFFIX}.pc
+        include/${PACKAGE}/simulation/simulatedcamera.h
+        include/${PACKAGE}/simulation/zarvexsimulation_export.h)
     if(NOT EXISTS "${prefix}/${expected}")
         message(FATAL_ERROR "not installed: ${expected}")
     endif()
@@ -52,3 +60,91 @@ separate_arguments(flags UNIX_COMMAND "${flags}")
 run(c++ -std=c++17 -fPIC "${SOURCE_DIR}/consumer/main.cpp" ${flags} -o "${WORK_DIR}/consumer-pkgconfig")
 run("${WORK_DIR}/consumer-pkgconfig")
 message(STATUS "pkg-config host: ${last_output}")
+
+# ---- the optional components and the example hosts ----------------------------
+
+set(components Simulation)
+set(pc_modules ZarvexSimulation${NAME_SUFFIX})
+if(WITH_ARAVIS)
+    list(APPEND components Aravis)
+    list(APPEND pc_modules ZarvexAravis${NAME_SUFFIX})
+    foreach(expected
+            lib/libZarvexAravis${NAME_SUFFIX}.so.6
+            lib/cmake/${PACKAGE}/${PACKAGE}AravisTargets.cmake
+            lib/pkgconfig/ZarvexAravis${NAME_SUFFIX}.pc
+            include/${PACKAGE}/aravis/araviscamera.h
+            include/${PACKAGE}/aravis/zarvexaravis_export.h)
+        if(NOT EXISTS "${prefix}/${expected}")
+            message(FATAL_ERROR "not installed: ${expected}")
+        endif()
+    endforeach()
+endif()
+
+# A component exports its public classes and nothing else: every defined
+# dynamic symbol belongs to them (their methods, vtables, type information and
+# meta-objects), apart from the linker's own.
+set(public_Simulation "Simulation::(SimulatedCamera|NodeMapEntry)")
+set(public_Aravis "Aravis::(AravisCamera|CameraInfo|NodeMapEntry)")
+foreach(component IN LISTS components)
+    run(nm -D --defined-only -C "${prefix}/lib/libZarvex${component}${NAME_SUFFIX}.so.6")
+    string(REPLACE "\n" ";" symbols "${last_output}")
+    set(count 0)
+    foreach(line IN LISTS symbols)
+        string(REGEX REPLACE "^[0-9a-f]+ [A-Za-z] " "" symbol "${line}")
+        if(symbol STREQUAL "" OR symbol MATCHES "^(_init|_fini|_edata|_end|__bss_start)$")
+            continue()
+        endif()
+        if(NOT symbol MATCHES "${public_${component}}")
+            message(FATAL_ERROR "libZarvex${component}${NAME_SUFFIX} exports ${symbol}")
+        endif()
+        math(EXPR count "${count} + 1")
+    endforeach()
+    if(count EQUAL 0)
+        message(FATAL_ERROR "libZarvex${component}${NAME_SUFFIX} exports nothing")
+    endif()
+    message(STATUS "libZarvex${component}${NAME_SUFFIX}: ${count} exported symbols, all of its public classes")
+endforeach()
+
+if(NOT EXAMPLES_DIR)
+    return()
+endif()
+
+# The examples through the CMake package, as a host builds them.
+run(${CMAKE_COMMAND} -S "${EXAMPLES_DIR}" -B "${WORK_DIR}/examples-cmake"
+    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Release -DZVC_PACKAGE=${PACKAGE})
+run(${CMAKE_COMMAND} --build "${WORK_DIR}/examples-cmake")
+set(examples simulated two-cameras)
+if(WITH_ARAVIS)
+    list(APPEND examples minimal)
+endif()
+foreach(example IN LISTS examples)
+    if(NOT EXISTS "${WORK_DIR}/examples-cmake/${example}/${example}")
+        message(FATAL_ERROR "the example ${example} was not built through the CMake package")
+    endif()
+endforeach()
+
+# ... and through pkg-config: a component's module brings the library's.
+foreach(example IN LISTS examples)
+    if(example STREQUAL "minimal")
+        set(module ZarvexAravis${NAME_SUFFIX})
+    else()
+        set(module ZarvexSimulation${NAME_SUFFIX})
+    endif()
+    run(pkg-config --cflags --libs ${module})
+    string(STRIP "${last_output}" flags)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    run(c++ -std=c++17 -fPIC "${EXAMPLES_DIR}/${example}/main.cpp" ${flags} -o "${WORK_DIR}/${example}-pkgconfig")
+endforeach()
+message(STATUS "examples built through the CMake package and through pkg-config: ${examples}")
+
+# The simulated examples start and keep running until stopped (they have no
+# camera to wait for): a crash or an early exit fails the check.
+foreach(example simulated two-cameras)
+    foreach(binary "${WORK_DIR}/examples-cmake/${example}/${example}" "${WORK_DIR}/${example}-pkgconfig")
+        execute_process(COMMAND "${binary}" TIMEOUT 3 RESULT_VARIABLE result OUTPUT_VARIABLE out ERROR_VARIABLE err)
+        if(NOT result MATCHES "timeout")
+            message(FATAL_ERROR "${binary} ended by itself (${result}) instead of running\n${out}\n${err}")
+        endif()
+    endforeach()
+endforeach()
+message(STATUS "simulated and two-cameras run")
