@@ -85,6 +85,8 @@ private slots:
     void helpRowShowsOnlyForHiddenMatches();
     void levelChangeDuringSearchRecounts();
     void filterMatchesOnEveryChange();
+    void deepMatchesUnderCollapsedCategoriesAreCounted_data();
+    void deepMatchesUnderCollapsedCategoriesAreCounted();
     void menuFollowsTheCurrentRow();
     void favouriteActionsAddMoveRemove();
     void removingTheLastFavouriteSelectsTheRowAbove();
@@ -604,6 +606,115 @@ void TestFeatureTreeWidget::levelChangeDuringSearchRecounts()
     QVERIFY(matches.count() >= 1);
     QCOMPARE(matches.last().at(0).toInt(), 1);
     QCOMPARE(matches.last().at(1).toInt(), 0);
+}
+
+void TestFeatureTreeWidget::deepMatchesUnderCollapsedCategoriesAreCounted_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<bool>("shown");
+    const char* levels[] = { "Beginner", "Expert", "Guru", "Invisible" };
+    for (int level = 0; level < 4; ++level) {
+        QTest::addRow("%s, hidden widget", levels[level]) << level << false;
+        QTest::addRow("%s, shown widget", levels[level]) << level << true;
+    }
+}
+
+void TestFeatureTreeWidget::deepMatchesUnderCollapsedCategoriesAreCounted()
+{
+    QFETCH(int, level);
+    QFETCH(bool, shown);
+    // Matches four to six levels below the root, several under one category
+    // and some of them Expert, Guru or Invisible; the widget expands two
+    // levels, so most of them lie under collapsed categories. The second node
+    // map holds one of the names again, which counts once.
+    struct Match
+    {
+        const char* name;
+        int visibility;
+    };
+    const Match matches[] = { { "MatchOne", 0 }, { "MatchTwo", 0 }, { "MatchExpert", 1 }, { "MatchGuru", 2 },
+        { "MatchThree", 0 }, { "MatchInvisible", 3 }, { "MatchExpertTwo", 1 } };
+    const QByteArray camera = R"({ "name": "@CameraDevice", "features": [
+        { "name": "Root", "type": "Category", "children": ["Top", "Other"] },
+        { "name": "Top", "type": "Category", "children": ["Second"] },
+        { "name": "Second", "type": "Category", "children": ["Third"] },
+        { "name": "Third", "type": "Category", "children": ["Fourth"] },
+        { "name": "Fourth", "type": "Category", "children": ["MatchOne", "MatchTwo", "MatchExpert", "Fifth"] },
+        { "name": "Fifth", "type": "Category", "children": ["MatchGuru", "MatchThree", "Sixth"] },
+        { "name": "Sixth", "type": "Category", "children": ["MatchInvisible", "MatchExpertTwo"] },
+        { "name": "Other", "type": "Category", "children": ["Plain"] },
+        { "name": "Plain", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+        { "name": "MatchOne", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+        { "name": "MatchTwo", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+        { "name": "MatchExpert", "type": "Integer", "visibility": "Expert", "value": 1, "min": 0, "max": 9 },
+        { "name": "MatchGuru", "type": "Integer", "visibility": "Guru", "value": 1, "min": 0, "max": 9 },
+        { "name": "MatchThree", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+        { "name": "MatchInvisible", "type": "Integer", "visibility": "Invisible", "value": 1, "min": 0, "max": 9 },
+        { "name": "MatchExpertTwo", "type": "Integer", "visibility": "Expert", "value": 1, "min": 0, "max": 9 }
+    ] })";
+    const QByteArray other = R"({ "name": "@Other", "features": [
+        { "name": "Root", "type": "Category", "children": ["A"] },
+        { "name": "A", "type": "Category", "children": ["B"] },
+        { "name": "B", "type": "Category", "children": ["C"] },
+        { "name": "C", "type": "Category", "children": ["MatchOne"] },
+        { "name": "MatchOne", "type": "Integer", "value": 1, "min": 0, "max": 9 }
+    ] })";
+    const QSharedPointer<Simulation::SimulatedDevice> device = makeDevice(deviceJson(camera + ", " + other));
+    QVERIFY(device);
+
+    // What the result line must say: every feature that matches, each name
+    // once; those that the level withholds (up to Guru) apart.
+    int expectedShown = 0;
+    int expectedHidden = 0;
+    for (const Match& match : matches) {
+        if (match.visibility <= level)
+            ++expectedShown;
+        else if (match.visibility <= 2)
+            ++expectedHidden;
+    }
+
+    FeatureTreeWidget widget;
+    widget.addParameterCollection(device->nodeMap(QStringLiteral("@CameraDevice")), QStringLiteral("Camera"),
+        QStringLiteral("@CameraDevice"), false);
+    widget.addParameterCollection(
+        device->nodeMap(QStringLiteral("@Other")), QStringLiteral("Other"), QStringLiteral("@Other"), false);
+    widget.setVisibility(GenApi::EVisibility(level));
+    if (shown) {
+        widget.resize(500, 700);
+        widget.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    }
+    QSignalSpy counts(&widget, SIGNAL(filterMatchesChanged(int, int)));
+    searchLine(widget)->setText(QStringLiteral("match"));
+    QCOMPARE(counts.count(), 1);
+    QCOMPARE(counts.last().at(0).toInt(), expectedShown + expectedHidden);
+    QCOMPARE(counts.last().at(1).toInt(), expectedHidden);
+    QCOMPARE(proxy(widget)->getVisibleMatchCount(), expectedShown);
+
+    // The case the counts once missed: a match that shows at this level lies
+    // under a category that the search left collapsed.
+    const QModelIndex fifth
+        = widget.getFeatureExtension()->findItemByFullName(QStringLiteral("@CameraDevice/Fifth"), nullptr, 0);
+    QVERIFY(fifth.isValid());
+    QVERIFY(!widget.treeView()->isExpanded(fifth));
+
+    // Typing on, and a level changed during the search, count in full too.
+    searchLine(widget)->setText(QStringLiteral("matchExpert"));
+    int expertShown = 0;
+    int expertHidden = 0;
+    for (const Match& match : matches) {
+        if (!QByteArray(match.name).startsWith("MatchExpert"))
+            continue;
+        if (match.visibility <= level)
+            ++expertShown;
+        else
+            ++expertHidden;
+    }
+    QCOMPARE(counts.last().at(0).toInt(), expertShown + expertHidden);
+    QCOMPARE(counts.last().at(1).toInt(), expertHidden);
+    QVERIFY(QMetaObject::invokeMethod(&widget, "onVisibilityChanged", Q_ARG(int, 2)));
+    QCOMPARE(counts.last().at(0).toInt(), expertShown + expertHidden);
+    QCOMPARE(counts.last().at(1).toInt(), 0);
 }
 
 void TestFeatureTreeWidget::filterMatchesOnEveryChange()

@@ -17,18 +17,106 @@ FeatureTreeProxyModel::FeatureTreeProxyModel(QObject* parent)
     // row is filtered again as its parent is mapped anew.
     connect(this, SIGNAL(layoutAboutToBeChanged()), this, SLOT(startPass()));
     connect(this, SIGNAL(modelAboutToBeReset()), this, SLOT(startPass()));
+    connect(this, SIGNAL(sourceModelChanged()), this, SLOT(watchSource()));
 }
 
 FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
 
 int FeatureTreeProxyModel::getVisibleMatchCount() const
 {
+    completeCounts();
     return m_visibleMatches.count;
 }
 
 int FeatureTreeProxyModel::getInvisibleMatchCount() const
 {
+    completeCounts();
     return m_invisibleMatches.count;
+}
+
+void FeatureTreeProxyModel::watchSource()
+{
+    disconnect(m_sourceInserted);
+    disconnect(m_sourceRemoved);
+    m_countsComplete = false;
+    if (QAbstractItemModel* source = sourceModel()) {
+        m_sourceInserted
+            = connect(source, SIGNAL(rowsInserted(QModelIndex, int, int)), this, SLOT(sourceRowsInserted()));
+        m_sourceRemoved = connect(source, SIGNAL(rowsRemoved(QModelIndex, int, int)), this, SLOT(sourceRowsRemoved()));
+    }
+}
+
+void FeatureTreeProxyModel::sourceRowsInserted()
+{
+    // The walk's own filling adds rows that it is about to count.
+    if (!m_countingWalk)
+        m_countsComplete = false;
+}
+
+void FeatureTreeProxyModel::sourceRowsRemoved()
+{
+    // A removed feature may have been the only row of its name: the counts
+    // start afresh and are walked again when next asked for.
+    if (m_addingCollection)
+        return;
+    m_visibleMatches.startPass();
+    m_invisibleMatches.startPass();
+    m_countsComplete = false;
+}
+
+void FeatureTreeProxyModel::followPattern() const
+{
+    const SearchPattern pattern = SearchPattern::ofProxy(*this, m_pattern);
+    if (pattern != m_pattern || m_visibility != m_passVisibility) {
+        m_visibleMatches.startPass();
+        m_invisibleMatches.startPass();
+        m_countsComplete = false;
+        m_pattern = pattern;
+        m_passVisibility = m_visibility;
+    }
+    m_passDropped = false;
+}
+
+void FeatureTreeProxyModel::completeCounts() const
+{
+    // Filtering counts the rows it reaches, and it stops below a row at the
+    // first accepted descendant and never reaches the rows under a collapsed
+    // category: a deep match would go uncounted. So the counts, once asked
+    // for, come from one walk over every row of the source, by the same rule
+    // and with the text and level of the present pass; the filtering that
+    // follows finds its names counted already. A level set but not yet
+    // filtered by counts from the next pass on, as it filters. Nothing is
+    // counted while a collection is being added.
+    const QAbstractItemModel* source = sourceModel();
+    if (!source || m_addingCollection || m_countingWalk)
+        return;
+    // Mappings dropped and not yet filtered again: the pass takes the text
+    // and level of now, as its filtering will.
+    if (m_passDropped) {
+        followPattern();
+        m_patternKnown = true;
+    }
+    if (m_countsComplete)
+        return;
+    m_sourceIsFeatureTreeModel = source->metaObject() == &FeatureTreeModel::staticMetaObject;
+    const bool wasCached = m_patternCached;
+    m_patternCached = true;
+    m_countingWalk = true;
+    QVector<QModelIndex> pending { QModelIndex() };
+    while (!pending.isEmpty()) {
+        const QModelIndex parent = pending.takeLast();
+        // (Asking for the row count lets a FeatureTreeModel fill the level.)
+        const int rows = source->rowCount(parent);
+        for (int row = 0; row < rows; ++row) {
+            const QModelIndex index = source->index(row, 0, parent);
+            filterAcceptsIndexItself(index);
+            if (source->hasChildren(index))
+                pending.append(index);
+        }
+    }
+    m_countingWalk = false;
+    m_patternCached = wasCached;
+    m_countsComplete = true;
 }
 
 FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel()
@@ -231,12 +319,14 @@ bool FeatureTreeProxyModel::filterAcceptsIndexItself(const QModelIndex& index) c
         return false;
     if (!direct)
         fields.showMe = source->data(index, FeatureTreeItem::ShowMeRole).toBool();
-    if (!fields.showMe && m_visibility != GenApi::Invisible)
+    // The counting walk judges by the level of the pass it completes.
+    const GenApi::EVisibility level = m_countingWalk ? m_passVisibility : m_visibility;
+    if (!fields.showMe && level != GenApi::Invisible)
         return false;
     if (!direct)
         fields.visibility = source->data(index, FeatureTreeItem::VisibilityRole).toInt();
     const int visibility = fields.visibility;
-    const bool shown = visibility <= m_visibility;
+    const bool shown = visibility <= level;
 
     bool hit = matchesFilter(name);
     if (!hit) {
@@ -247,9 +337,9 @@ bool FeatureTreeProxyModel::filterAcceptsIndexItself(const QModelIndex& index) c
         hit = matchesFilter(*fields.displayText);
     }
     if (hit) {
-        if (visibility <= GenApi::Guru && visibility > m_visibility)
+        if (visibility <= GenApi::Guru && visibility > level)
             m_invisibleMatches.insert(name);
-        if (visibility <= m_visibility)
+        if (visibility <= level)
             m_visibleMatches.insert(name);
     }
     // The search help line passes without matching.
@@ -295,6 +385,8 @@ void FeatureTreeProxyModel::startPass()
     m_visibleMatches.startPass();
     m_invisibleMatches.startPass();
     m_patternKnown = false;
+    m_countsComplete = false;
+    m_passDropped = true;
 }
 
 bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
@@ -315,13 +407,7 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& s
     // ones before the top level, so matches counted before that row would be
     // lost and, their parents being mapped already, not come back.
     if (!sourceParent.isValid() || !m_patternKnown) {
-        const SearchPattern pattern = SearchPattern::ofProxy(*this, m_pattern);
-        if (pattern != m_pattern || m_visibility != m_passVisibility) {
-            m_visibleMatches.startPass();
-            m_invisibleMatches.startPass();
-            m_pattern = pattern;
-            m_passVisibility = m_visibility;
-        }
+        followPattern();
         m_patternKnown = true;
         const QAbstractItemModel* source = sourceModel();
         m_sourceIsFeatureTreeModel = source && source->metaObject() == &FeatureTreeModel::staticMetaObject;

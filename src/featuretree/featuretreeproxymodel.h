@@ -62,9 +62,18 @@ public:
     //! The base class's answer, after the source level below parent is filled.
     bool hasChildren(const QModelIndex& parent = QModelIndex()) const override;
 
-    //! Features that matched the search and show at the present level, each counted once by name.
+    /*!
+     * Features that matched the search and show at the present level, each
+     * counted once by name. Every feature of the source counts, whether or
+     * not its parent is expanded, filled or mapped: the first call after the
+     * search, the level or the rows changed walks the whole source (filling
+     * what the model has not filled yet), later calls cost nothing.
+     */
     int getVisibleMatchCount() const;
-    //! Features that matched the search but need a higher level than the present one (up to Guru).
+    /*!
+     * Features that matched the search but need a higher level than the
+     * present one (up to Guru), counted as getVisibleMatchCount() counts.
+     */
     int getInvisibleMatchCount() const;
 
     //! The source as a FeatureTreeModel; null if it isn't one.
@@ -134,6 +143,10 @@ protected:
 private slots:
     //! New counts: the base class is about to drop its mappings and filter every row again.
     void startPass();
+    //! Follows the source's row insertions and removals for the counts.
+    void watchSource();
+    void sourceRowsInserted();
+    void sourceRowsRemoved();
 
 private:
     //! Lets the model fill the source level below parent, outside any mapping of the base class.
@@ -144,6 +157,10 @@ private:
     bool filterAcceptsRowOrRelative(int sourceRow, const QModelIndex& sourceParent) const;
     //! Fills the filter's fields of a row from its item; false where only data() can tell.
     bool readFilterFields(const QModelIndex& index, void* fieldsOut) const;
+    //! Makes the counts those of the present text and level over every row of the source.
+    void completeCounts() const;
+    //! Starts new counts if the text or the level differs from the present pass's.
+    void followPattern() const;
 
     bool m_addingCollection = false;
     GenApi::EVisibility m_visibility = GenApi::Guru;
@@ -200,4 +217,14 @@ private:
     mutable bool m_patternCached = false;
     // The source is a FeatureTreeModel itself, not a class derived from it.
     mutable bool m_sourceIsFeatureTreeModel = false;
+    // The counts hold every match of the source, not only those that the
+    // filtering happened to reach; cleared with each pass and each change of
+    // the source's rows that isn't the counting walk's own filling.
+    mutable bool m_countsComplete = false;
+    mutable bool m_countingWalk = false;
+    // startPass() ran and no row was filtered since: the next pass's text
+    // and level are those of now.
+    mutable bool m_passDropped = false;
+    QMetaObject::Connection m_sourceInserted;
+    QMetaObject::Connection m_sourceRemoved;
 };
