@@ -6,6 +6,7 @@
 #include "featuretree/toolbuttoneditor.h"
 #include "parameters/icommandparameter.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QtTest>
 
@@ -65,6 +66,9 @@ class TestSimpleEditors : public QObject
 private slots:
     void init();
     void cleanup();
+
+    // EnumEditor's list
+    void enumBuildsItsListWhenFirstAsked();
 
     // CheckBoxEditor
     void checkBoxShowsAndCommitsTheValue();
@@ -206,6 +210,39 @@ void TestSimpleEditors::checkBoxClickedByTheUser()
 }
 
 // ---- EnumEditor -------------------------------------------------------------
+
+void TestSimpleEditors::enumBuildsItsListWhenFirstAsked()
+{
+    const QString styleSheet
+        = QStringLiteral("margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;");
+    EnumEditor editor;
+    QCOMPARE(editor.styleSheet(), styleSheet);
+    // Most editors of a large tree are never opened: the drop-down list
+    // waits until something asks for it.
+    QVERIFY(editor.findChildren<QAbstractItemView*>().isEmpty());
+    QVERIFY(editor.findChildren<QFrame*>().isEmpty());
+
+    // Built then, it has the delegate that a combo box of the same style
+    // sheet has, and it opens and shows the entries.
+    QComboBox plain;
+    plain.setStyleSheet(styleSheet);
+    QVERIFY(editor.itemDelegate());
+    QCOMPARE(QByteArray(editor.itemDelegate()->metaObject()->className()),
+        QByteArray(plain.itemDelegate()->metaObject()->className()));
+    QCOMPARE(editor.findChildren<QAbstractItemView*>().size(), 1);
+    editor.setEditorData(EditorTest::editorDataOf(m_device, QStringLiteral("Mode")));
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    editor.showPopup();
+    QVERIFY(editor.view()->isVisible());
+    QCOMPARE(editor.view()->model()->rowCount(), editor.count());
+    editor.hidePopup();
+
+    // A style change after construction is the combo box's as ever.
+    editor.setStyleSheet(styleSheet + QStringLiteral(" color: red;"));
+    QCOMPARE(QByteArray(editor.itemDelegate()->metaObject()->className()),
+        QByteArray(plain.itemDelegate()->metaObject()->className()));
+}
 
 void TestSimpleEditors::enumListsEntriesWithSymbolicValues()
 {

@@ -43,6 +43,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    //! The base class's handling, but for the style sheet set by the constructor (see there).
+    void changeEvent(QEvent* event) override;
+
     //! The open drop-down list; null except while it is shown.
     QPointer<QWidget> popup;
 };
