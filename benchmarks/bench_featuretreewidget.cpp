@@ -1,23 +1,35 @@
 // The feature tree as a user meets it, on the default simulated camera (all
-// its node maps) and on synthetic node maps of 1 000 and 10 000 features.
+// its node maps) and on synthetic node maps of 1 000, 10 000 and 100 000
+// features.
 //
 // The plain Qt alternative: a QTreeView over a QSortFilterProxyModel
 // (recursive, case-insensitive, for the search) over a QStandardItemModel
-// holding the same rows (name and value text), with a persistent editor
-// opened by openPersistentEditor on every visible writable value.
+// holding the same rows (name and value text), filled level by level as the
+// view asks (fetchMore), as the feature tree fills its model, with a
+// persistent editor opened by openPersistentEditor on every visible writable
+// value and the values kept up to date from the parameters' own change
+// signal.
 //
 // Measured, each to the end of the repaint it causes:
 //   first paint     construct, add all node maps, show, first paint
 //   expand all      expand every category; the editors open on every visible value
+//                   (at 100 000 features: the largest category and its ancestors)
+//   first frame     from the start of expanding to the first paint after it
 //   search key      one keystroke in the search, with expand and repaint
 //   clear search    back to the empty search
-//   poll tick       10 changed values while about 1 000 editors are open
+//   poll tick       one device poll (100 polled values, 10 of them change)
+//                   while about 1 000 editors are open; both sides receive
+//                   the same change signals of the same parameters
+// Both sides run in turns, the order changing from one round to the next,
+// and each figure is the fastest of three rounds (one round at 100 000
+// features, where a round takes minutes).
 //
 // Run from a Release build on the offscreen platform:
 //   QT_QPA_PLATFORM=offscreen build-bench/benchmarks/bench_featuretreewidget
 // With "--search-only 10000" it builds only the feature tree on that many
 // synthetic features and times expanding, the search keystroke and clearing
-// the search, for a profiler.
+// the search, for a profiler; "--first-paint-only 10000" only the first
+// paint. "--skip-100k" leaves the largest camera out.
 
 #include "benchmarkutil.h"
 
@@ -84,19 +96,35 @@ Camera syntheticCamera(int featureCount, int polled, int changing)
     return camera;
 }
 
-//! Paint events of a viewport, to know that a paint has happened.
+//! Paint events of a viewport, to know that a paint has happened, and when
+//! the first one came after arm().
 class PaintWatch : public QObject
 {
 public:
     int paints = 0;
 
+    void arm()
+    {
+        m_clock.start();
+        m_firstPaintMs = -1;
+    }
+    //! Milliseconds from arm() to the first paint after it; -1 if none came.
+    double firstPaintMs() const { return m_firstPaintMs; }
+
 protected:
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             ++paints;
+            if (m_firstPaintMs < 0 && m_clock.isValid())
+                m_firstPaintMs = double(m_clock.nsecsElapsed()) / 1e6;
+        }
         return false;
     }
+
+private:
+    QElapsedTimer m_clock;
+    double m_firstPaintMs = -1;
 };
 
 //! Lets queued work run and paints the window now.
@@ -148,33 +176,161 @@ void expandEveryCategory(QTreeView* view, const QModelIndex& parent)
     }
 }
 
+//! Expands the rows whose texts are given, from the top level down.
+void expandPathIn(QTreeView* view, const QStringList& path)
+{
+    const QAbstractItemModel* model = view->model();
+    QModelIndex parent;
+    for (const QString& text : path) {
+        QModelIndex found;
+        for (int row = 0; row < model->rowCount(parent) && !found.isValid(); ++row) {
+            const QModelIndex index = model->index(row, 0, parent);
+            if (index.data().toString() == text)
+                found = index;
+        }
+        if (!found.isValid()) {
+            qWarning("no row \"%s\" to expand", qPrintable(text));
+            return;
+        }
+        view->setExpanded(found, true);
+        parent = found;
+    }
+}
+
+//! The display names from a node map's row down to the category with the
+//! most rows of its own.
+QStringList largestCategoryPath(const Camera& camera)
+{
+    QStringList best;
+    int bestRows = -1;
+    std::function<void(IParameterCollection&, const QString&, const QStringList&)> visit
+        = [&](IParameterCollection& collection, const QString& fullName, const QStringList& path) {
+              const QStringList children = collection.getChildNames(fullName, false, true);
+              if (children.size() > bestRows) {
+                  bestRows = int(children.size());
+                  best = path;
+              }
+              for (const QString& child : children) {
+                  const QSharedPointer<IParameter> parameter = collection.getParameter(child);
+                  if (!parameter || parameter->getType() != TypeCategory)
+                      continue;
+                  visit(collection, child,
+                      QStringList(path) << parameter->advancedAccess()->getProperty(
+                          QStringLiteral("DisplayName"), parameter->getName()));
+              }
+          };
+    for (const QString& name : camera.nodeMaps)
+        visit(*camera.device->nodeMap(name), name + QStringLiteral("/Root"), { name });
+    return best;
+}
+
 // ---- the plain side -----------------------------------------------------------
 
 const int WritableRole = Qt::UserRole + 1;
+// A category not filled yet: its full name.
+const int UnfetchedRole = Qt::UserRole + 2;
+// The poll interval the feature tree passes to the device.
+const qint64 kPollInterval = 300;
 
-//! The same names and value texts as standard items, writable values marked.
-void fillStandardModel(QStandardItem* parent, IParameterCollection& collection, const QString& fullName)
+//! The plain tree's model: a category's rows are made when the view first
+//! asks for them, one level at a time, and each value follows its
+//! parameter's change signal.
+class LazyStandardModel : public QStandardItemModel
 {
-    for (const QString& child : collection.getChildNames(fullName, false, true)) {
-        const QSharedPointer<IParameter> parameter = collection.getParameter(child);
-        if (!parameter || parameter->isZombie())
-            continue;
-        const QSharedPointer<const ParameterData> data = parameter->getParameterData();
-        if (!data || !data->implemented || data->visibility > GenApi::Guru)
-            continue;
-        const QString displayName
-            = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), parameter->getName());
-        auto* nameItem = new QStandardItem(displayName);
-        auto* valueItem = new QStandardItem(data->valueText);
-        nameItem->setEditable(false);
-        const bool isCategory = parameter->getType() == TypeCategory;
-        valueItem->setData(!isCategory && data->writable, WritableRole);
-        valueItem->setEditable(!isCategory && data->writable);
-        parent->appendRow({ nameItem, valueItem });
-        if (isCategory)
-            fillStandardModel(nameItem, collection, child);
+public:
+    //! Adds the rows of one node map's root below a new top-level row.
+    void addNodeMap(const QSharedPointer<IParameterCollection>& collection, const QString& name)
+    {
+        auto* root = new QStandardItem(name);
+        root->setEditable(false);
+        auto* rootValue = new QStandardItem;
+        rootValue->setEditable(false);
+        appendRow({ root, rootValue });
+        m_collections.insert(root, collection);
+        fillLevel(root, *collection, name + QStringLiteral("/Root"));
     }
-}
+
+    bool hasChildren(const QModelIndex& parent = QModelIndex()) const override
+    {
+        const QStandardItem* item = itemFromIndex(parent);
+        if (item && item->data(UnfetchedRole).isValid())
+            return true;
+        return QStandardItemModel::hasChildren(parent);
+    }
+    bool canFetchMore(const QModelIndex& parent) const override
+    {
+        const QStandardItem* item = itemFromIndex(parent);
+        return item && item->data(UnfetchedRole).isValid();
+    }
+    void fetchMore(const QModelIndex& parent) override
+    {
+        QStandardItem* item = itemFromIndex(parent);
+        if (!item || !item->data(UnfetchedRole).isValid())
+            return;
+        const QString fullName = item->data(UnfetchedRole).toString();
+        item->setData(QVariant(), UnfetchedRole);
+        QStandardItem* top = item;
+        while (top->parent())
+            top = top->parent();
+        fillLevel(item, *m_collections.value(top), fullName);
+    }
+    //! Makes every level, as a search over the whole tree needs.
+    void fetchAll(const QModelIndex& parent = QModelIndex())
+    {
+        if (canFetchMore(parent))
+            fetchMore(parent);
+        for (int row = 0; row < rowCount(parent); ++row)
+            fetchAll(index(row, 0, parent));
+    }
+
+private:
+    //! The same names and value texts as standard items, writable values marked.
+    void fillLevel(QStandardItem* parent, IParameterCollection& collection, const QString& fullName)
+    {
+        QList<QList<QStandardItem*>> rows;
+        QList<QPair<QSharedPointer<IParameter>, QStandardItem*>> followed;
+        for (const QString& child : collection.getChildNames(fullName, false, true)) {
+            const QSharedPointer<IParameter> parameter = collection.getParameter(child);
+            if (!parameter || parameter->isZombie())
+                continue;
+            const QSharedPointer<const ParameterData> data = parameter->getParameterData();
+            if (!data || !data->implemented || data->visibility > GenApi::Guru)
+                continue;
+            const QString displayName
+                = parameter->advancedAccess()->getProperty(QStringLiteral("DisplayName"), parameter->getName());
+            auto* nameItem = new QStandardItem(displayName);
+            auto* valueItem = new QStandardItem(data->valueText);
+            nameItem->setEditable(false);
+            const bool isCategory = parameter->getType() == TypeCategory;
+            valueItem->setData(!isCategory && data->writable, WritableRole);
+            valueItem->setEditable(!isCategory && data->writable);
+            if (isCategory)
+                nameItem->setData(child, UnfetchedRole);
+            else
+                followed.append(qMakePair(parameter, valueItem));
+            rows.append(QList<QStandardItem*> { nameItem, valueItem });
+        }
+        for (const QList<QStandardItem*>& row : rows)
+            parent->appendRow(row);
+        for (const auto& pair : followed)
+            follow(pair.first, pair.second);
+    }
+    //! The value item takes each new value text the parameter announces.
+    void follow(const QSharedPointer<IParameter>& parameter, QStandardItem* valueItem)
+    {
+        QStandardItemModel* model = this;
+        const QPersistentModelIndex value = valueItem->index();
+        m_followed.append(parameter);
+        QObject::connect(parameter.data(), &IParameter::parameterDataChangedDecoupled, this,
+            [model, value](QSharedPointer<const ParameterData> data) {
+                if (data && value.isValid())
+                    model->setData(value, data->valueText);
+            });
+    }
+
+    QHash<const QStandardItem*, QSharedPointer<IParameterCollection>> m_collections;
+    QList<QSharedPointer<IParameter>> m_followed;
+};
 
 //! Opens editors on visible writable values until `budget` editors are open.
 void openEditorsOnVisibleValues(QTreeView* view, const QModelIndex& parent, int& budget)
@@ -198,21 +354,15 @@ public:
     //! editors: as many persistent editors as the feature tree opens, at most.
     explicit PlainTree(const Camera& camera, int editors = std::numeric_limits<int>::max())
         : maxEditors(editors)
+        , pollCollection(camera.device->nodeMap(camera.nodeMaps.first()))
     {
         proxy.setSourceModel(&model);
         proxy.setRecursiveFilteringEnabled(true);
         proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
         proxy.setFilterKeyColumn(0);
         model.setHorizontalHeaderLabels({ QStringLiteral("Feature"), QStringLiteral("Value") });
-        for (const QString& name : camera.nodeMaps) {
-            const QSharedPointer<IParameterCollection> collection = camera.device->nodeMap(name);
-            auto* root = new QStandardItem(name);
-            root->setEditable(false);
-            auto* rootValue = new QStandardItem;
-            rootValue->setEditable(false);
-            model.appendRow({ root, rootValue });
-            fillStandardModel(root, *collection, name + QStringLiteral("/Root"));
-        }
+        for (const QString& name : camera.nodeMaps)
+            model.addNodeMap(camera.device->nodeMap(name), name);
         view.setModel(&proxy);
         view.setUniformRowHeights(true);
         view.header()->resizeSection(0, 200);
@@ -235,29 +385,28 @@ public:
         settleAndPaint(&view);
     }
 
+    void expandPath(const QStringList& path)
+    {
+        expandPathIn(&view, path);
+        openEditors();
+        settleAndPaint(&view);
+    }
+
     void search(const QString& text)
     {
+        // The recursive filter finds only rows that exist: the whole tree is made first.
+        if (!text.isEmpty())
+            model.fetchAll();
         proxy.setFilterFixedString(text);
         view.expandAll();
         openEditors();
         settleAndPaint(&view);
     }
 
-    //! Writes a new value text into the first `count` writable values.
-    void changeValues(int count, int round)
+    //! One device poll; the changes arrive as queued signals, as on the feature tree's side.
+    void pollTick()
     {
-        int changed = 0;
-        std::function<void(const QModelIndex&)> visit = [&](const QModelIndex& parent) {
-            for (int row = 0; row < model.rowCount(parent) && changed < count; ++row) {
-                const QModelIndex value = model.index(row, 1, parent);
-                if (value.data(WritableRole).toBool()) {
-                    model.setData(value, QString::number(1000 * round + changed));
-                    ++changed;
-                }
-                visit(model.index(row, 0, parent));
-            }
-        };
-        visit(QModelIndex());
+        pollCollection->poll(kPollInterval);
         settleAndPaint(&view);
     }
 
@@ -268,7 +417,8 @@ public:
     }
 
     int maxEditors;
-    QStandardItemModel model;
+    QSharedPointer<IParameterCollection> pollCollection;
+    LazyStandardModel model;
     QSortFilterProxyModel proxy;
     QTreeView view;
     PaintWatch watch;
@@ -303,6 +453,12 @@ public:
         settleAndPaint(&widget);
     }
 
+    void expandPath(const QStringList& path)
+    {
+        expandPathIn(widget.treeView(), path);
+        settleAndPaint(&widget);
+    }
+
     //! Types into the search line: textChanged goes to onFilterTextChanged.
     void type(const QString& text)
     {
@@ -316,13 +472,14 @@ public:
         settleAndPaint(&widget);
     }
 
+    //! One tick of the model's poll timer; the changes arrive as queued
+    //! signals from the simulated camera.
     void pollTick()
     {
         auto* proxy = qobject_cast<QSortFilterProxyModel*>(widget.treeView()->model());
         auto* model = proxy ? qobject_cast<FeatureTreeModel*>(proxy->sourceModel()) : nullptr;
         if (model)
             model->onTimerPoll();
-        // The changes arrive as queued signals from the simulated camera.
         settleAndPaint(&widget);
     }
 
@@ -342,15 +499,44 @@ QString ms(double value)
 struct Figures
 {
     double firstPaint = 0;
-    double expandAll = 0;
+    double expand = 0;
+    double firstFrame = 0;
     double searchKey = 0;
     double clearSearch = 0;
     int rows = 0;
     int editors = 0;
     int searchRows = 0;
+
+    //! The fastest of each figure; the counts of the latest run.
+    void keepFastest(const Figures& other)
+    {
+        firstPaint = qMin(firstPaint, other.firstPaint);
+        expand = qMin(expand, other.expand);
+        firstFrame = qMin(firstFrame, other.firstFrame);
+        searchKey = qMin(searchKey, other.searchKey);
+        clearSearch = qMin(clearSearch, other.clearSearch);
+        rows = other.rows;
+        editors = other.editors;
+        searchRows = other.searchRows;
+    }
 };
 
-Figures measureOurs(const Camera& camera)
+//! What "expand" means for a camera: every category, or one path down to the largest.
+struct Expansion
+{
+    bool everyCategory = true;
+    QStringList path;
+};
+
+template <typename Tree> void expand(Tree& tree, const Expansion& expansion)
+{
+    if (expansion.everyCategory)
+        tree.expandAll();
+    else
+        tree.expandPath(expansion.path);
+}
+
+Figures measureOurs(const Camera& camera, const Expansion& expansion)
 {
     Figures figures;
     std::unique_ptr<OurTree> tree;
@@ -358,7 +544,9 @@ Figures measureOurs(const Camera& camera)
         tree = std::make_unique<OurTree>(camera);
         tree->showAndPaint();
     });
-    figures.expandAll = BenchmarkUtil::timeMs([&] { tree->expandAll(); });
+    tree->watch.arm();
+    figures.expand = BenchmarkUtil::timeMs([&] { expand(*tree, expansion); });
+    figures.firstFrame = tree->watch.firstPaintMs();
     figures.rows = visibleRows(tree->widget.treeView(), QModelIndex());
     figures.editors = editorCount(tree->widget.treeView());
     tree->searchEdit()->setFocus();
@@ -368,17 +556,7 @@ Figures measureOurs(const Camera& camera)
     return figures;
 }
 
-double measureOurPollTick(const Camera& camera, int* editors)
-{
-    OurTree tree(camera);
-    tree.showAndPaint();
-    tree.expandAll();
-    *editors = editorCount(tree.widget.treeView());
-    tree.pollTick(); // once to warm up
-    return BenchmarkUtil::fastestMs(5, [&] { tree.pollTick(); });
-}
-
-Figures measurePlain(const Camera& camera, int editors)
+Figures measurePlain(const Camera& camera, const Expansion& expansion, int editors)
 {
     Figures figures;
     std::unique_ptr<PlainTree> tree;
@@ -386,7 +564,9 @@ Figures measurePlain(const Camera& camera, int editors)
         tree = std::make_unique<PlainTree>(camera, editors);
         tree->showAndPaint();
     });
-    figures.expandAll = BenchmarkUtil::timeMs([&] { tree->expandAll(); });
+    tree->watch.arm();
+    figures.expand = BenchmarkUtil::timeMs([&] { expand(*tree, expansion); });
+    figures.firstFrame = tree->watch.firstPaintMs();
     figures.rows = visibleRows(&tree->view, QModelIndex());
     figures.editors = editorCount(&tree->view);
     figures.searchKey = BenchmarkUtil::timeMs([&] { tree->search(camera.searchKey); });
@@ -395,22 +575,64 @@ Figures measurePlain(const Camera& camera, int editors)
     return figures;
 }
 
-double measurePlainPollTick(const Camera& camera, int* editors)
+//! Both sides in turns, the side that goes first changing each round; the
+//! fastest of each figure. The plain side opens as many editors as ours.
+void measureInTurns(const Camera& camera, const Expansion& expansion, int rounds, Figures* ours, Figures* plain)
 {
-    PlainTree tree(camera, *editors);
-    tree.showAndPaint();
-    tree.expandAll();
-    *editors = editorCount(&tree.view);
-    tree.changeValues(10, 1); // once to warm up
-    return BenchmarkUtil::fastestMs(5, [&, round = 2]() mutable { tree.changeValues(10, round++); });
+    for (int round = 0; round < rounds; ++round) {
+        Figures our;
+        Figures theirs;
+        if (round % 2 == 0) {
+            our = measureOurs(camera, expansion);
+            theirs = measurePlain(camera, expansion, our.editors);
+        } else {
+            theirs = measurePlain(camera, expansion, ours->editors);
+            our = measureOurs(camera, expansion);
+        }
+        if (round == 0) {
+            *ours = our;
+            *plain = theirs;
+        } else {
+            ours->keepFastest(our);
+            plain->keepFastest(theirs);
+        }
+    }
 }
 
-void printRow(QTextStream& out, const char* label, double ours, double plain, bool haveOurs)
+void printRow(QTextStream& out, const char* label, double ours, double plain)
 {
-    out << qSetFieldWidth(34) << Qt::left << label << qSetFieldWidth(14) << Qt::right
-        << (haveOurs ? ms(ours) : QStringLiteral("-")) << qSetFieldWidth(14) << ms(plain) << qSetFieldWidth(8)
-        << (haveOurs ? QString::number(ours / plain, 'f', 2) : QStringLiteral("-")) << qSetFieldWidth(0) << Qt::left
+    out << qSetFieldWidth(34) << Qt::left << label << qSetFieldWidth(14) << Qt::right << ms(ours) << qSetFieldWidth(14)
+        << ms(plain) << qSetFieldWidth(8) << QString::number(ours / plain, 'f', 2) << qSetFieldWidth(0) << Qt::left
         << '\n';
+}
+
+void printCamera(QTextStream& out, const Camera& camera, const Expansion& expansion, int rounds)
+{
+    // The simulation makes its parameter objects on first look-up: make
+    // them all now, so that neither side is charged for them.
+    {
+        PlainTree warmUp(camera);
+        warmUp.model.fetchAll();
+    }
+    Figures ours;
+    Figures plain;
+    measureInTurns(camera, expansion, rounds, &ours, &plain);
+    out << "--- " << camera.label
+        << (expansion.everyCategory
+                   ? QString()
+                   : QStringLiteral(", largest category \"%1\"").arg(expansion.path.join(QLatin1Char('/'))))
+        << ": rows shown after expanding " << ours.rows << " / " << plain.rows << " plain, editors " << ours.editors
+        << " / " << plain.editors << " plain; rows in the search \"" << camera.searchKey << "\" " << ours.searchRows
+        << " / " << plain.searchRows << " plain; fastest of " << rounds << "\n";
+    out << qSetFieldWidth(34) << Qt::left << "[ms]" << qSetFieldWidth(14) << Qt::right << "FeatureTree"
+        << qSetFieldWidth(14) << "plain Qt" << qSetFieldWidth(8) << "ratio" << qSetFieldWidth(0) << Qt::left << '\n';
+    printRow(out, "construct, add, first paint", ours.firstPaint, plain.firstPaint);
+    printRow(out, expansion.everyCategory ? "expand every category" : "expand the largest category", ours.expand,
+        plain.expand);
+    printRow(out, "  first frame after expanding", ours.firstFrame, plain.firstFrame);
+    printRow(out, "search keystroke", ours.searchKey, plain.searchKey);
+    printRow(out, "clear the search", ours.clearSearch, plain.clearSearch);
+    out.flush();
 }
 
 } // namespace
@@ -425,7 +647,6 @@ int main(int argc, char** argv)
     QCoreApplication::setOrganizationName(QStringLiteral("ZarvexBenchmarks"));
     QCoreApplication::setApplicationName(QStringLiteral("bench_featuretreewidget"));
     QTextStream out(stdout);
-    const bool haveOurs = true;
 
     // --search-only N: only the feature tree on N synthetic features, up to
     // the search keystroke and its clearing; for a profiler.
@@ -433,7 +654,6 @@ int main(int argc, char** argv)
     const int searchOnly = arguments.indexOf(QStringLiteral("--search-only"));
     if (searchOnly > 0 && searchOnly + 1 < arguments.size()) {
         const Camera camera = syntheticCamera(arguments.at(searchOnly + 1).toInt(), -1, -1);
-        PlainTree warmUp(camera);
         OurTree tree(camera);
         tree.showAndPaint();
         out << "expand every category [ms] " << ms(BenchmarkUtil::timeMs([&] { tree.expandAll(); })) << '\n';
@@ -443,37 +663,54 @@ int main(int argc, char** argv)
         return 0;
     }
 
+    // --first-paint-only N: only constructing, adding and the first paint of
+    // the feature tree on N synthetic features; for a profiler.
+    const int firstPaintOnly = arguments.indexOf(QStringLiteral("--first-paint-only"));
+    if (firstPaintOnly > 0 && firstPaintOnly + 1 < arguments.size()) {
+        const Camera camera = syntheticCamera(arguments.at(firstPaintOnly + 1).toInt(), -1, -1);
+        {
+            PlainTree warmUp(camera);
+            warmUp.model.fetchAll();
+        }
+        std::unique_ptr<OurTree> tree;
+        out << "construct, add, first paint [ms] " << ms(BenchmarkUtil::timeMs([&] {
+            tree = std::make_unique<OurTree>(camera);
+            tree->showAndPaint();
+        })) << '\n';
+        return 0;
+    }
+
     QList<Camera> cameras;
     cameras << defaultCamera() << syntheticCamera(1000, -1, -1) << syntheticCamera(10000, -1, -1);
-    for (const Camera& camera : cameras) {
-        // The simulation makes its parameter objects on first look-up: make
-        // them all now, so that neither side is charged for them.
-        PlainTree warmUp(camera);
-
-        const Figures ours = measureOurs(camera);
-        const Figures plain = measurePlain(camera, ours.editors);
-        out << "--- " << camera.label << ": rows shown after expanding " << ours.rows << " / " << plain.rows
-            << " plain, editors " << ours.editors << " / " << plain.editors << " plain; rows in the search \""
-            << camera.searchKey << "\" " << ours.searchRows << " / " << plain.searchRows << " plain\n";
-        out << qSetFieldWidth(34) << Qt::left << "[ms]" << qSetFieldWidth(14) << Qt::right << "FeatureTree"
-            << qSetFieldWidth(14) << "plain Qt" << qSetFieldWidth(8) << "ratio" << qSetFieldWidth(0) << Qt::left
-            << '\n';
-        printRow(out, "construct, add, first paint", ours.firstPaint, plain.firstPaint, haveOurs);
-        printRow(out, "expand every category", ours.expandAll, plain.expandAll, haveOurs);
-        printRow(out, "search keystroke", ours.searchKey, plain.searchKey, haveOurs);
-        printRow(out, "clear the search", ours.clearSearch, plain.clearSearch, haveOurs);
-        out.flush();
+    for (const Camera& camera : cameras)
+        printCamera(out, camera, Expansion(), 3);
+    if (!arguments.contains(QStringLiteral("--skip-100k"))) {
+        const Camera largest = syntheticCamera(100000, -1, -1);
+        printCamera(out, largest, Expansion { false, largestCategoryPath(largest) }, 1);
     }
 
     // One poll tick with about 1 000 editors open: 1 600 features, all shown
     // (not every kind has a persistent editor); 100 of them are polled, 10 of
-    // those change.
+    // those change at each poll. Each tree has a camera of its own, so that
+    // neither receives the other's changes, and they tick in turns.
     const Camera polled = syntheticCamera(1600, 100, 10);
-    int ourEditors = 0;
-    const double ourTick = measureOurPollTick(polled, &ourEditors);
-    int plainEditors = ourEditors;
-    const double plainTick = measurePlainPollTick(polled, &plainEditors);
-    out << "--- poll tick, 10 changed values; editors open: " << ourEditors << " / " << plainEditors << " plain\n";
-    printRow(out, "poll tick to repaint", ourTick, plainTick, haveOurs);
+    const Camera polledPlain = syntheticCamera(1600, 100, 10);
+    OurTree ourTree(polled);
+    ourTree.showAndPaint();
+    ourTree.expandAll();
+    PlainTree plainTree(polledPlain, editorCount(ourTree.widget.treeView()));
+    plainTree.showAndPaint();
+    plainTree.expandAll();
+    ourTree.pollTick(); // once each to warm up
+    plainTree.pollTick();
+    double ourTick = std::numeric_limits<double>::max();
+    double plainTick = std::numeric_limits<double>::max();
+    for (int turn = 0; turn < 5; ++turn) {
+        ourTick = qMin(ourTick, BenchmarkUtil::timeMs([&] { ourTree.pollTick(); }));
+        plainTick = qMin(plainTick, BenchmarkUtil::timeMs([&] { plainTree.pollTick(); }));
+    }
+    out << "--- poll tick, 10 of 100 polled values changed; editors open: " << editorCount(ourTree.widget.treeView())
+        << " / " << editorCount(&plainTree.view) << " plain; fastest of 5\n";
+    printRow(out, "poll tick to repaint", ourTick, plainTick);
     return 0;
 }
