@@ -66,12 +66,21 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const int row = int(data[0]) - 2; // -2 .. 253
     QByteArray payload;
     QDataStream stream(&payload, QIODevice::WriteOnly);
+    int written = 0;
     for (size_t i = 1; i + 1 < size; i += 2) {
-        if (data[i] & 1)
+        // Raw bytes go through the stream too, at its position, so that a torn
+        // or forged record can stand anywhere, with records after it.
+        if (data[i] & 1) {
             stream << addresses.value(data[i + 1] % addresses.size());
-        else
-            payload.append(char(data[i + 1]));
+            written += int(sizeof(qint64));
+        } else {
+            stream.writeRawData(reinterpret_cast<const char*>(data + i + 1), 1);
+            written += 1;
+        }
     }
+    // Every record and byte the input asked for is in the payload.
+    if (payload.size() != written)
+        std::abort();
     QMimeData mime;
     mime.setData(QStringLiteral("application/x-fti"), payload);
     model->dropMimeData(&mime, Qt::MoveAction, row, 0, QModelIndex());

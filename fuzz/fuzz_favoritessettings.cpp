@@ -2,7 +2,8 @@
 // application's settings file, as a damaged or forged one could be. Every
 // input must load without a sanitizer report and leave a list without an
 // empty name and without two equal favourites; what was loaded must save and
-// load back to the same number of favourites.
+// load back to the same favourites, names and node maps, in the same order
+// (a name read anew as a load reads it).
 
 #include "favouritescheck.h"
 #include "featuretree/favoritesdata.h"
@@ -11,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSettings>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <cstddef>
@@ -22,6 +24,29 @@ namespace {
 QCoreApplication* application = nullptr;
 QTemporaryDir* directory = nullptr;
 quint64 counter = 0;
+
+//! A name as a load gives it back: through the local 8-bit encoding, cut at a NUL, read as Latin-1. A name
+//! outside ASCII thereby changes at each load; names of features never are.
+QString reloadedName(const QString& name)
+{
+    QByteArray bytes = name.toLocal8Bit();
+    const int nul = bytes.indexOf('\0');
+    if (nul >= 0)
+        bytes.truncate(nul);
+    return QString::fromLatin1(bytes);
+}
+
+//! Each favourite as its node map's name and its own, in the list's order; with reload, as the next load
+//! should give it.
+QStringList favourites(const FavoritesData& store, bool reload = false)
+{
+    QStringList list;
+    for (int i = 0; i < store.countNodes(); ++i) {
+        const FavoritesData::FavoritesDataItem* item = store.nodeAt(i);
+        list << item->nodeMapName + QLatin1Char('\n') + (reload ? reloadedName(item->name) : item->name);
+    }
+    return list;
+}
 
 } // namespace
 
@@ -49,19 +74,19 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         file.write(reinterpret_cast<const char*>(data), qint64(size));
     }
 
-    int loaded = 0;
+    QStringList loaded;
     {
         FavoritesData store;
         store.LoadFavorites(QStringLiteral("Favorites"));
         abortOnDamagedFavourites(store);
-        loaded = store.countNodes();
+        loaded = favourites(store, true);
         store.SaveFavorites(QStringLiteral("Saved"));
     }
     {
         FavoritesData again;
         again.LoadFavorites(QStringLiteral("Saved"));
         abortOnDamagedFavourites(again);
-        if (again.countNodes() != loaded)
+        if (favourites(again) != loaded)
             std::abort();
     }
     QFile::remove(path);

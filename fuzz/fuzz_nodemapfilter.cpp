@@ -11,6 +11,9 @@
 // advanced access, "=" one whose name can't be fetched; a text starting with
 // "!", "?" or "#" makes setProperty throw a std::exception, a
 // GenICam::GenericException or an int.
+//
+// The answer of applyFilter and every setProperty it makes are checked
+// against the same bytes read independently, with the stream reader.
 
 #include "featuretree/nodemapfilter.h"
 #include "parameters/genericexception.h"
@@ -22,6 +25,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QStringList>
+#include <QXmlStreamReader>
 
 #include <cstddef>
 #include <cstdint>
@@ -32,13 +37,21 @@
 
 namespace {
 
+//! Every setProperty asked for in the present input, as "name key value", in order.
+QStringList imposed;
+
 class FuzzAccess : public ParameterCollection::IAdvancedParameterAccess
 {
 public:
+    explicit FuzzAccess(const QString& name)
+        : m_name(name)
+    {
+    }
     QString getProperty(QString) const override { return QString(); }
     QString getProperty(QString, QString defaultValue) const override { return defaultValue; }
     void setProperty(QString key, QString value) override
     {
+        imposed << m_name + QLatin1Char(' ') + key + QLatin1Char(' ') + value;
         if (value.startsWith(QLatin1Char('!')))
             throw std::runtime_error("refused");
         if (value.startsWith(QLatin1Char('?')))
@@ -49,6 +62,7 @@ public:
     }
 
 private:
+    QString m_name;
     QString m_last;
 };
 
@@ -59,7 +73,7 @@ public:
         : m_name(name)
     {
         if (!name.startsWith(QLatin1Char('%')))
-            m_access.reset(new FuzzAccess);
+            m_access.reset(new FuzzAccess(name));
     }
     void setValueFromString(QString) override { }
     bool isZombie() const override
@@ -112,6 +126,85 @@ QString* nodeMapName = nullptr;
 
 void silence(QtMsgType, const QMessageLogContext&, const QString&) { }
 
+/*!
+ * What the filter should do with these bytes, read on its own with the
+ * stream reader rather than a DOM: false when the file is to be refused (too
+ * large, a document type declaration, nesting too deep, not well-formed);
+ * otherwise true, with the setProperty calls the fake node map should see,
+ * in order. An item is an element child of the document element; its name is
+ * the text of its first "Name" element at any depth, its visibility and
+ * access mode those of its first "Visibility" and "AccessMode" elements. The
+ * first character of a name or a text steers the fake node map as above.
+ */
+bool expectedImpositions(const QByteArray& content, QStringList* expected)
+{
+    if (content.size() > NodeMapFilter::MaximumFileSize)
+        return false;
+    struct Item
+    {
+        bool seen[3] = { false, false, false };
+        QString text[3];
+    };
+    const QString tags[3] = { QStringLiteral("Name"), QStringLiteral("Visibility"), QStringLiteral("AccessMode") };
+    QList<Item> items;
+    QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
+    int depth = 0;
+    // For each tag, the depth of the element whose text is being gathered; 0 for none.
+    int collecting[3] = { 0, 0, 0 };
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::DTD:
+            return false;
+        case QXmlStreamReader::StartElement:
+            if (++depth > NodeMapFilter::MaximumElementDepth)
+                return false;
+            if (depth == 2)
+                items.append(Item());
+            for (int tag = 0; tag < 3 && depth > 2; ++tag) {
+                if (!items.last().seen[tag] && reader.qualifiedName() == tags[tag]) {
+                    items.last().seen[tag] = true;
+                    collecting[tag] = depth;
+                }
+            }
+            break;
+        case QXmlStreamReader::EndElement:
+            for (int& tagDepth : collecting)
+                if (tagDepth == depth)
+                    tagDepth = 0;
+            --depth;
+            break;
+        case QXmlStreamReader::Characters:
+            // The DOM keeps no text that is only white space.
+            for (int tag = 0; tag < 3; ++tag)
+                if (collecting[tag] > 0 && !reader.isWhitespace())
+                    items.last().text[tag] += reader.text();
+            break;
+        default:
+            break;
+        }
+    }
+    if (reader.hasError())
+        return false;
+    for (const Item& item : qAsConst(items)) {
+        const QString& name = item.text[0];
+        if (!item.seen[0] || name.isEmpty() || name.startsWith(QLatin1Char('~')) || name.startsWith(QLatin1Char('^')))
+            continue;
+        for (int tag = 1; tag < 3; ++tag) {
+            if (!item.seen[tag])
+                continue;
+            if (name.startsWith(QLatin1Char('%')))
+                break; // no advanced access: nothing is set, the item ends
+            expected->append(name + QLatin1Char(' ') + tags[tag] + QLatin1Char(' ') + item.text[tag]);
+            const QString& value = item.text[tag];
+            if (value.startsWith(QLatin1Char('!')) || value.startsWith(QLatin1Char('?'))
+                || value.startsWith(QLatin1Char('#')))
+                break; // refused: the item ends
+        }
+    }
+    return true;
+}
+
 void removeFilterFile()
 {
     if (filterPath)
@@ -149,7 +242,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         if (!file.resize(qint64(size)))
             std::abort();
     }
-    NodeMapFilter::applyFilter(
+    imposed.clear();
+    const bool applied = NodeMapFilter::applyFilter(
         QSharedPointer<FuzzCollection>::create(), QSharedPointer<FuzzBaseInfo>::create(), *nodeMapName);
+    // The filter's answer and what it imposed agree with the file.
+    QStringList expected;
+    const QByteArray content(reinterpret_cast<const char*>(data), int(size));
+    if (applied != expectedImpositions(content, &expected) || imposed != expected)
+        std::abort();
     return 0;
 }

@@ -3,7 +3,8 @@
 // saved state of version 1. Whatever the bytes, restoreState must return
 // without a sanitizer report, without allocating by a stored count, and must
 // leave no column with a width that no saved state could hold. A state that
-// the widget saves itself must always be taken back.
+// the widget saves itself must always be taken back, with the widths it was
+// saved with.
 
 #include "featuretree/treewidgetbase.h"
 
@@ -11,6 +12,7 @@
 #include <QHeaderView>
 #include <QStandardItemModel>
 #include <QTreeView>
+#include <QVector>
 
 #include <cstddef>
 #include <cstdint>
@@ -66,10 +68,19 @@ void fuzzOne(const uint8_t* data, size_t size)
             std::abort();
     }
 
-    // The widget's own state always comes back.
+    // The widget's own state always comes back, and gives back the widths it
+    // was saved with (the last section's is dropped: it stretches).
+    QVector<int> widths;
+    for (int section = 0; section < columns; ++section)
+        widths << header->sectionSize(section);
     const QByteArray saved = widget.saveState(1);
+    for (int section = 0; section < columns; ++section)
+        header->resizeSection(section, widths.at(section) == 77 ? 78 : 77);
     if (saved.size() != 8 + 4 * columns || !widget.restoreState(saved, 1))
         std::abort();
+    for (int section = 0; section + 1 < columns; ++section)
+        if (header->sectionSize(section) != widths.at(section))
+            std::abort();
 }
 
 } // namespace

@@ -72,6 +72,22 @@ bool typeIntoTree(FeatureTreeWidget* tree, const QString& fullName, const QStrin
     return true;
 }
 
+//! Counts the paint events a widget receives.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++count;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 } // namespace
 
 class TestViewer : public QObject
@@ -140,7 +156,11 @@ void TestViewer::startsOnEachTransportType()
     QCOMPARE(m_window->camera()->transportLayerType(), ViewerMainWindow::simulatedTransportTypes().at(row));
     // The favourites root and one root for each node map of the camera.
     QCOMPARE(m_window->featureTree()->treeView()->model()->rowCount(), m_window->camera()->nodeMapNames().size() + 1);
-    QTest::qWait(50);
+    // The tree paints without a warning.
+    QWidget* viewport = m_window->featureTree()->treeView()->viewport();
+    PaintCounter paints(viewport);
+    viewport->update();
+    QTRY_VERIFY(paints.count > 0);
 }
 
 void TestViewer::selectingACameraOpensIt()
