@@ -45,6 +45,7 @@
 
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
+#include <QAbstractProxyModel>
 #include <QApplication>
 #include <QColor>
 #include <QDir>
@@ -57,6 +58,7 @@
 #include <QPoint>
 #include <QPointer>
 #include <QRect>
+#include <QSet>
 #include <QSettings>
 #include <QSize>
 #include <QStringList>
@@ -69,6 +71,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -117,7 +120,9 @@ int anyInt(Bytes& in)
 {
     static const int table[]
         = { 0, 1, -1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 19, 20, 21, 29, 30, 31, 98, 99, 100, 255, 256, 1000, 65535,
-              65536, 100000, 100001, 1000000000, INT_MAX, INT_MAX - 1, INT_MIN, INT_MIN + 1, -2, -99, -100000 };
+              65536, 100000, 100001, 1000000000, INT_MAX, INT_MAX - 1, INT_MIN, INT_MIN + 1, -2, -99, -100000,
+              // the item data roles, Qt's and the tree's own
+              13, 257, 258, 259, 260, 261, 262, 266, 268, 269, 270, 288 };
     const uint8_t choice = in.byte();
     if (choice < 200)
         return table[choice % (sizeof(table) / sizeof(table[0]))];
@@ -209,7 +214,7 @@ bool isIntLike(const QByteArray& type)
     static const char* const names[] = { "GenApi::EVisibility", "GenApi::EAccessMode", "AsyncErrorQueue::ErrorSeverity",
         "ErrorSeverity", "TwoModeDoubleComboSlider::ETwoModeDoubleComboSliderMode", "ETwoModeDoubleComboSliderMode",
         "QMessageBox::StandardButtons", "QFlags<QMessageBox::StandardButton>", "Qt::WindowFlags",
-        "QFlags<Qt::WindowType>" };
+        "QFlags<Qt::WindowType>", "Qt::MatchFlags", "QFlags<Qt::MatchFlag>" };
     for (const char* name : names)
         if (type == name)
             return true;
@@ -437,7 +442,11 @@ QVector<int> methodsOf(const QMetaObject* metaObject)
         const QMetaObject* owner = metaObject;
         while (owner->superClass() && i < owner->methodOffset())
             owner = owner->superClass();
-        if (!isLibraryClass(owner))
+        // The invokable methods of QAbstractItemModel (data, setData, index,
+        // fetchMore, ...) land in the library's overrides.
+        const bool modelMethod
+            = owner == &QAbstractItemModel::staticMetaObject && method.methodType() == QMetaMethod::Method;
+        if (!isLibraryClass(owner) && !modelMethod)
             continue;
         const QByteArray name = method.name();
         if (name == "exec" || name == "open" || name == "deleteLater")
@@ -507,6 +516,26 @@ void touchProperty(QObject* target, Bytes& in)
     property.write(target, value);
 }
 
+// With ZVC_FUZZ_LIST=1, prints what the fuzzer calls on each class.
+void listSurface(const std::vector<QPointer<QObject>>& objects)
+{
+    QSet<const QMetaObject*> seen;
+    for (const QPointer<QObject>& object : objects) {
+        if (!object || seen.contains(object->metaObject()))
+            continue;
+        const QMetaObject* metaObject = object->metaObject();
+        seen.insert(metaObject);
+        fprintf(stderr, "%s\n", metaObject->className());
+        for (int index : methodsOf(metaObject))
+            fprintf(stderr, "  method   %s\n", metaObject->method(index).methodSignature().constData());
+        for (int index : propertiesOf(metaObject)) {
+            const QMetaProperty property = metaObject->property(index);
+            fprintf(stderr, "  property %s %s%s\n", property.typeName(), property.name(),
+                property.isWritable() ? "" : " (read only)");
+        }
+    }
+}
+
 void settle()
 {
     QCoreApplication::processEvents();
@@ -571,6 +600,12 @@ void buildWorld()
     for (QObject* child : tree->findChildren<QObject*>())
         if (isLibraryClass(child->metaObject()))
             world->objects.push_back(child);
+    if (auto* view = tree->findChild<QAbstractItemView*>()) {
+        auto* proxy = qobject_cast<QAbstractProxyModel*>(view->model());
+        world->objects.push_back(view->model());
+        if (proxy)
+            world->objects.push_back(proxy->sourceModel());
+    }
 
     world->own(new ComboSlider);
     world->own(new DoubleComboSlider);
@@ -613,6 +648,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     if (!world) {
         buildWorld();
         inputsOnThisWorld = 0;
+        static bool listed = false;
+        if (!listed && qEnvironmentVariableIntValue("ZVC_FUZZ_LIST") != 0)
+            listSurface(world->objects);
+        listed = true;
     }
     Bytes in(data, size);
     for (int operation = 0; operation < 64 && !in.atEnd(); ++operation) {
