@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <limits>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -85,6 +86,8 @@ private slots:
     void init();
     void severitiesAreStepsOfTen();
     void threeReportsComeOutNewestFirst();
+    void unnamedSeveritiesPassUnchanged_data();
+    void unnamedSeveritiesPassUnchanged();
     void reportsInterleavedWithTheEventLoop();
     void nothingIsEmittedInsideReportErrorAsync();
     void clearAfterReportGivesNoSignal();
@@ -155,6 +158,38 @@ void TestErrorReporting::threeReportsComeOutNewestFirst()
     QCOMPARE(spy.at(2).at(1).toString(), QString("first"));
     QCOMPARE(spy.at(2).at(0).value<AsyncErrorQueue::ErrorSeverity>(), AsyncErrorQueue::Critical);
     QCOMPARE(queue.count(), 0);
+}
+
+void TestErrorReporting::unnamedSeveritiesPassUnchanged_data()
+{
+    QTest::addColumn<int>("severity");
+    QTest::newRow("0") << 0;
+    QTest::newRow("11") << 11;
+    QTest::newRow("40") << 40;
+    QTest::newRow("-1") << -1;
+    QTest::newRow("INT_MAX") << std::numeric_limits<int>::max();
+    QTest::newRow("INT_MIN") << std::numeric_limits<int>::min();
+}
+
+// A severity the queue doesn't name is queued and handed on as it came, to a
+// slot taking the enumeration and through the queued signal's copy.
+void TestErrorReporting::unnamedSeveritiesPassUnchanged()
+{
+    QFETCH(int, severity);
+    AsyncErrorQueue queue;
+    Receiver receiver;
+    QVERIFY(QObject::connect(&queue, SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget*)),
+        &receiver, SLOT(onDisplayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget*))));
+    QSignalSpy spy(&queue, SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget*)));
+
+    queue.reportErrorAsync(static_cast<AsyncErrorQueue::ErrorSeverity>(severity), "text", "details", nullptr);
+    QCOMPARE(queue.count(), 1);
+    drain(&queue);
+    QCOMPARE(receiver.received.size(), 1);
+    QCOMPARE(int(receiver.received.at(0).severity), severity);
+    QCOMPARE(receiver.received.at(0).text, QStringLiteral("text"));
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(int(spy.at(0).at(0).value<AsyncErrorQueue::ErrorSeverity>()), severity);
 }
 
 void TestErrorReporting::reportsInterleavedWithTheEventLoop()

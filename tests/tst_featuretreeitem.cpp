@@ -20,6 +20,8 @@
 #include <QUuid>
 #include <QtTest>
 
+#include <limits>
+
 using namespace TreeTest;
 using ParameterCollection::IParameter;
 using Simulation::FaultKind;
@@ -108,6 +110,10 @@ private slots:
     void cachingFailuresLeaveAUsableItem();
 
     void plainItemData();
+    void anyVisibilityComparesByValue_data();
+    void anyVisibilityComparesByValue();
+    void anyAccessModeAndEditorType_data();
+    void anyAccessModeAndEditorType();
     void plainItemFlags();
     void plainItemChildren();
     void shallowFinders();
@@ -874,6 +880,84 @@ void TestFeatureTreeItem::valueTextFollowsALanguageChange()
     QCOMPARE(translatedNotAvailable, translator.translate("FeatureTreeINodeItem", "<not available>"));
     QCOMPARE(translatedNotImplemented, translator.translate("FeatureTreeINodeItem", "<not implemented>"));
     QCOMPARE(writeOnly->data(1, Qt::DisplayRole).toString(), english);
+}
+
+void TestFeatureTreeItem::anyVisibilityComparesByValue_data()
+{
+    QTest::addColumn<int>("visibility");
+    for (int value : { 0, 3, 4, 5, -1, 98, 99, 100, std::numeric_limits<int>::max(), std::numeric_limits<int>::min() })
+        QTest::newRow(qPrintable(QString::number(value))) << value;
+}
+
+// Visibilities and levels are ints to a host. Unnamed ones (4, -1, 99 as a
+// level, ...) are kept as they came and compared like the named ones: a row
+// shows at every level at or above its own.
+void TestFeatureTreeItem::anyVisibilityComparesByValue()
+{
+    QFETCH(int, visibility);
+    FeatureTreeItem plain(QStringLiteral("Plain"), m_model.get(), QStringLiteral("Plain"), nullptr);
+    plain.setVisibility(static_cast<GenApi::EVisibility>(visibility));
+    QCOMPARE(int(plain.getVisibility()), visibility);
+    QCOMPARE(plain.data(0, FeatureTreeItem::VisibilityRole).toInt(), visibility);
+    for (int level : { -1, 0, 2, 3, 4, 99, std::numeric_limits<int>::max(), std::numeric_limits<int>::min() })
+        QCOMPARE(plain.ShowMe(static_cast<GenApi::EVisibility>(level)), visibility <= level);
+}
+
+namespace {
+
+// An item of a host's own that reports any access mode and editor type.
+class AnyItem : public FeatureTreeItem
+{
+public:
+    AnyItem(IFeatureTreeModelExtension* extension, int accessMode, int editor)
+        : FeatureTreeItem(QStringLiteral("Any"), extension, QStringLiteral("Any"), nullptr)
+        , m_accessMode(accessMode)
+        , m_editor(editor)
+    {
+    }
+    GenApi::EAccessMode getAccessMode() const override { return static_cast<GenApi::EAccessMode>(m_accessMode); }
+    int editorType() const override { return m_editor; }
+
+private:
+    int m_accessMode;
+    int m_editor;
+};
+
+} // namespace
+
+void TestFeatureTreeItem::anyAccessModeAndEditorType_data()
+{
+    QTest::addColumn<int>("accessMode");
+    QTest::addColumn<int>("editor");
+    QTest::addColumn<bool>("persistent");
+    QTest::addColumn<bool>("editable");
+    // No persistent editor (0, 6, 8, 10): editable only for NI and WO.
+    QTest::newRow("NI, editor 8") << 0 << 8 << false << true;
+    QTest::newRow("WO, editor 10") << 2 << 10 << false << true;
+    QTest::newRow("RW, editor 0") << 4 << 0 << false << false;
+    QTest::newRow("access 5, editor 6") << 5 << 6 << false << false;
+    QTest::newRow("access -1, editor 8") << -1 << 8 << false << false;
+    QTest::newRow("access 99, editor 10") << 99 << 10 << false << false;
+    QTest::newRow("access INT_MIN, editor 0") << std::numeric_limits<int>::min() << 0 << false << false;
+    // Every other editor type, named or not, keeps an editor open.
+    QTest::newRow("access 5, editor 9") << 5 << 9 << true << true;
+    QTest::newRow("access -1, editor 12") << -1 << 12 << true << true;
+    QTest::newRow("access 99, editor -1") << 99 << -1 << true << true;
+    QTest::newRow("access INT_MAX, editor INT_MAX")
+        << std::numeric_limits<int>::max() << std::numeric_limits<int>::max() << true << true;
+}
+
+void TestFeatureTreeItem::anyAccessModeAndEditorType()
+{
+    QFETCH(int, accessMode);
+    QFETCH(int, editor);
+    QFETCH(bool, persistent);
+    QFETCH(bool, editable);
+    AnyItem item(m_model.get(), accessMode, editor);
+    QCOMPARE(int(item.getAccessMode()), accessMode);
+    QCOMPARE(item.usePersistentEditor(), persistent);
+    QCOMPARE(item.flags(1).testFlag(Qt::ItemIsEditable), editable);
+    QCOMPARE(item.flags(0), Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled);
 }
 
 QTEST_MAIN(TestFeatureTreeItem)

@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include <limits>
+
 Q_DECLARE_METATYPE(GenApi::EVisibility)
 
 using namespace TreeTest;
@@ -70,6 +72,8 @@ private slots:
     void visibilityIndexOutsideTheLevelsDoesNothing_data();
     void visibilityIndexOutsideTheLevelsDoesNothing();
     void visibilityIndexSetsTheLevel();
+    void anyLevelIsKeptAsGiven_data();
+    void anyLevelIsKeptAsGiven();
     void firstEscArmsSecondClears();
     void otherKeyDisarmsEsc();
     void escFlagIsSharedBetweenWidgets();
@@ -354,6 +358,31 @@ void TestFeatureTreeWidget::visibilityIndexSetsTheLevel()
     widget.setVisibility(GenApi::Guru);
     QCOMPARE(visibility.count(), 1);
     QCOMPARE(widget.visibility(), GenApi::Guru);
+}
+
+void TestFeatureTreeWidget::anyLevelIsKeptAsGiven_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::newRow("4") << 4;
+    QTest::newRow("-1") << -1;
+    QTest::newRow("99") << 99;
+    QTest::newRow("INT_MIN") << std::numeric_limits<int>::min();
+    QTest::newRow("INT_MAX") << std::numeric_limits<int>::max();
+}
+
+// setVisibility() takes any int a host holds for a level; it is kept and
+// rows are judged against it like against a named one.
+void TestFeatureTreeWidget::anyLevelIsKeptAsGiven()
+{
+    QFETCH(int, level);
+    FeatureTreeWidget widget;
+    addCamera(widget);
+    widget.setVisibility(static_cast<GenApi::EVisibility>(level));
+    QCOMPARE(int(widget.visibility()), level);
+    QCOMPARE(int(widget.getFeatureExtension()->getVisibility()), level);
+    QCoreApplication::processEvents();
+    widget.setVisibility(GenApi::Beginner);
+    QCOMPARE(widget.visibility(), GenApi::Beginner);
 }
 
 void TestFeatureTreeWidget::firstEscArmsSecondClears()

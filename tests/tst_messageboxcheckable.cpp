@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <functional>
+#include <limits>
 
 namespace {
 
@@ -104,6 +105,8 @@ private slots:
     void plainConstructor();
     void iconsComeFromTheLibrary_data();
     void iconsComeFromTheLibrary();
+    void unnamedIconsAndButtonMasks_data();
+    void unnamedIconsAndButtonMasks();
     void checkBoxText();
     void checkBoxTextIsTranslated();
 
@@ -186,6 +189,38 @@ void TestMessageBoxCheckable::iconsComeFromTheLibrary()
     QMessageBox plain;
     plain.setIcon(icon);
     QVERIFY(box.iconPixmap().toImage() != plain.iconPixmap().toImage());
+}
+
+void TestMessageBoxCheckable::unnamedIconsAndButtonMasks_data()
+{
+    QTest::addColumn<int>("icon");
+    QTest::addColumn<int>("buttons");
+    QTest::newRow("icon 5") << 5 << int(QMessageBox::Ok);
+    QTest::newRow("icon 7") << 7 << int(QMessageBox::Ok);
+    QTest::newRow("icon 8") << 8 << int(QMessageBox::Ok);
+    QTest::newRow("icon 99") << 99 << int(QMessageBox::Ok | QMessageBox::Cancel);
+    QTest::newRow("icon -1") << -1 << 0;
+    QTest::newRow("icon INT_MAX") << std::numeric_limits<int>::max() << int(QMessageBox::Yes);
+    QTest::newRow("icon INT_MIN") << std::numeric_limits<int>::min() << int(QMessageBox::No);
+    QTest::newRow("buttons with unnamed bits") << int(QMessageBox::Question) << 0x7fffffff;
+    QTest::newRow("buttons -1") << int(QMessageBox::Warning) << -1;
+    QTest::newRow("buttons 1") << int(QMessageBox::Information) << 1;
+}
+
+// A host may keep icon and buttons as ints. An icon that QMessageBox doesn't
+// name shows none, like NoIcon; any mask is kept as given.
+void TestMessageBoxCheckable::unnamedIconsAndButtonMasks()
+{
+    QFETCH(int, icon);
+    QFETCH(int, buttons);
+
+    MessageBoxCheckable box(QStringLiteral("unnamed"), static_cast<QMessageBox::Icon>(icon), QStringLiteral("Title"),
+        QStringLiteral("Text"), QFlags<QMessageBox::StandardButton>(buttons), nullptr, Qt::Dialog);
+    QCOMPARE(box.text(), QStringLiteral("Text"));
+    const bool named = icon >= QMessageBox::Information && icon <= QMessageBox::Question;
+    QCOMPARE(box.iconPixmap().isNull(), !named);
+    box.setSaveResultOnButton(QFlags<QMessageBox::StandardButton>(buttons));
+    QCOMPARE(int(box.saveResultOnButton()), buttons);
 }
 
 void TestMessageBoxCheckable::checkBoxText()

@@ -67,6 +67,8 @@ private slots:
     void linearModeIsTheBase();
     void editingFinishedIsForwarded();
     void propertiesUseTheMode();
+    void anyModeValueOtherThanOneIsLinear_data();
+    void anyModeValueOtherThanOneIsLinear();
 };
 
 void TestTwoModeDoubleComboSlider::initialState()
@@ -437,6 +439,48 @@ void TestTwoModeDoubleComboSlider::propertiesUseTheMode()
     QCOMPARE(combo.property("mode").value<Mode>(), TwoModeDoubleComboSlider::ModeLogarithmic);
     QVERIFY(combo.setProperty("mode", QVariant::fromValue(TwoModeDoubleComboSlider::ModeLinear)));
     QCOMPARE(combo.mode(), TwoModeDoubleComboSlider::ModeLinear);
+}
+
+void TestTwoModeDoubleComboSlider::anyModeValueOtherThanOneIsLinear_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("logarithmic");
+    QTest::newRow("0, linear") << 0 << false;
+    QTest::newRow("1, logarithmic") << 1 << true;
+    QTest::newRow("2") << 2 << false;
+    QTest::newRow("-1") << -1 << false;
+    QTest::newRow("99") << 99 << false;
+    QTest::newRow("INT_MAX") << std::numeric_limits<int>::max() << false;
+    QTest::newRow("INT_MIN") << std::numeric_limits<int>::min() << false;
+}
+
+// A host keeps the mode as an int (a QVariant, a setting, a Designer
+// property). Any int is a value of the mode and comes back unchanged; only 1
+// is logarithmic, in the constructor, in setMode() and through the property.
+void TestTwoModeDoubleComboSlider::anyModeValueOtherThanOneIsLinear()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, logarithmic);
+    const int sliderTop = logarithmic ? 100000 : 1024;
+
+    TwoModeProbe constructed(nullptr, static_cast<Mode>(mode));
+    QCOMPARE(int(constructed.mode()), mode);
+    constructed.initControls(1.0, 1024.0, 1, 1, 1024, 1);
+    QCOMPARE(constructed.theSlider()->maximum(), sliderTop);
+    constructed.setIntValue(32);
+    QCOMPARE(constructed.intValue(), 32);
+
+    TwoModeProbe set;
+    set.setMode(static_cast<Mode>(mode));
+    QCOMPARE(int(set.mode()), mode);
+    set.initControls(1.0, 1024.0, 1, 1, 1024, 1);
+    QCOMPARE(set.theSlider()->maximum(), sliderTop);
+
+    TwoModeProbe property;
+    QVERIFY(property.setProperty("mode", mode));
+    QCOMPARE(property.property("mode").toInt(), mode);
+    property.initControls(1.0, 1024.0, 1, 1, 1024, 1);
+    QCOMPARE(property.theSlider()->maximum(), sliderTop);
 }
 
 QTEST_MAIN(TestTwoModeDoubleComboSlider)

@@ -32,8 +32,12 @@ class ZVC_EXPORT FeatureTreeItem : public QObject
     Q_OBJECT
 
 public:
-    //! What editor the delegate makes for an item.
-    enum EditorType {
+    /*!
+     * What editor the delegate makes for an item. The underlying type is
+     * fixed so that any int is a value; an unnamed one (8, 9, -1, ...) gets
+     * the delegate's default editor, as a string does.
+     */
+    enum EditorType : int {
         EditorInt = 0, //!< an integer of any representation but "Linear" and "Logarithmic": IntEditor
         EditorIntSlider = 1, //!< an integer shown as "Linear" or "Logarithmic": IntSliderEditor
         EditorFloat = 2, //!< a float of any other representation: FloatEditor

@@ -32,8 +32,12 @@ class ZVC_EXPORT TwoModeDoubleComboSlider : public DoubleComboSlider
     Q_PROPERTY(ETwoModeDoubleComboSliderMode mode READ mode WRITE setMode)
 
 public:
-    //! Any value other than ModeLogarithmic counts as linear.
-    enum ETwoModeDoubleComboSliderMode { ModeLinear = 0, ModeLogarithmic = 1 };
+    /*!
+     * Any value other than ModeLogarithmic counts as linear. The underlying
+     * type is fixed, so any int (from a QVariant, a setting, a property) is
+     * a value of the type and is kept as given.
+     */
+    enum ETwoModeDoubleComboSliderMode : int { ModeLinear = 0, ModeLogarithmic = 1 };
     /*!
      * \var TwoModeDoubleComboSlider::ModeLinear
      * The slider shows the integer as it is.

@@ -30,8 +30,12 @@ class ZVC_EXPORT AsyncErrorQueue : public QObject
     Q_OBJECT
 
 public:
-    //! How grave a message is; the values are fixed, in steps of ten.
-    enum ErrorSeverity { Critical = 10, Error = 20, Warning = 30 };
+    /*!
+     * How grave a message is; the values are fixed, in steps of ten. The
+     * underlying type is fixed too, so any int a host passes is queued and
+     * handed to displayError() unchanged.
+     */
+    enum ErrorSeverity : int { Critical = 10, Error = 20, Warning = 30 };
     /*!
      * \var AsyncErrorQueue::Critical
      * From showCriticalMessage(), and so from showException() and showUnexpectedException().

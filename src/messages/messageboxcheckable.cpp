@@ -7,9 +7,31 @@
 #include <QPixmap>
 #include <QSettings>
 
+#include <cstring>
+
 namespace {
 
 const char settingsGroup[] = "DoNotShowAgain";
+
+// QMessageBox::Icon has no fixed underlying type, so a value outside its
+// named ones (a host's int cast to it) must not be read as an Icon: that
+// load is undefined. The bits are taken as they are and only a named value
+// is turned back into an Icon; any other counts as NoIcon.
+QMessageBox::Icon knownIcon(const QMessageBox::Icon& icon)
+{
+    static_assert(sizeof(QMessageBox::Icon) == sizeof(int), "QMessageBox::Icon is an int");
+    int raw = 0;
+    std::memcpy(&raw, &icon, sizeof raw);
+    switch (raw) {
+    case QMessageBox::Information:
+    case QMessageBox::Warning:
+    case QMessageBox::Critical:
+    case QMessageBox::Question:
+        return static_cast<QMessageBox::Icon>(raw);
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
 
 QString iconResource(QMessageBox::Icon icon)
 {
@@ -39,11 +61,11 @@ MessageBoxCheckable::MessageBoxCheckable(const QString& settingsKey, QWidget* pa
 
 MessageBoxCheckable::MessageBoxCheckable(const QString& settingsKey, QMessageBox::Icon icon, const QString& title,
     const QString& text, QFlags<QMessageBox::StandardButton> buttons, QWidget* parent, QFlags<Qt::WindowType> flags)
-    : QMessageBox(icon, title, text, buttons, parent, flags)
+    : QMessageBox(knownIcon(icon), title, text, buttons, parent, flags)
     , m_settingsKey(settingsKey)
     , m_checkBoxText(tr("&Don't show this dialog again"))
 {
-    const QString resource = iconResource(icon);
+    const QString resource = iconResource(knownIcon(icon));
     setIconPixmap(resource.isEmpty() ? QPixmap() : QPixmap(resource));
     init();
 }

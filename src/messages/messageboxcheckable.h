@@ -35,7 +35,7 @@ class ZVC_EXPORT MessageBoxCheckable : public QMessageBox
 public:
     //! A plain box named by settingsKey; reads the answer stored under that key, if any.
     explicit MessageBoxCheckable(const QString& settingsKey, QWidget* parent = nullptr);
-    //! Replaces the standard icon with the library's own; NoIcon shows none.
+    //! Replaces the standard icon with the library's own; NoIcon, or any value QMessageBox doesn't name, shows none.
     MessageBoxCheckable(const QString& settingsKey, QMessageBox::Icon icon, const QString& title, const QString& text,
         QFlags<QMessageBox::StandardButton> buttons = QMessageBox::NoButton, QWidget* parent = nullptr,
         QFlags<Qt::WindowType> flags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);

@@ -11,8 +11,12 @@
  */
 namespace GenApi {
 
-//! How visible a feature is. A smaller value is more visible.
-enum EVisibility { Beginner = 0, Expert = 1, Guru = 2, Invisible = 3, _UndefinedVisibility = 99 };
+/*!
+ * How visible a feature is. A smaller value is more visible. The underlying
+ * type is fixed, so any int is a value of the type: a level such as 4, -1 or
+ * 99 that a host passes is simply compared like the named ones.
+ */
+enum EVisibility : int { Beginner = 0, Expert = 1, Guru = 2, Invisible = 3, _UndefinedVisibility = 99 };
 
 /*!
  * \var GenApi::Beginner
@@ -27,8 +31,12 @@ enum EVisibility { Beginner = 0, Expert = 1, Guru = 2, Invisible = 3, _Undefined
  * No visibility known, as in the placeholder snapshot.
  */
 
-//! Access mode of a feature, as computed from a snapshot.
-enum EAccessMode {
+/*!
+ * Access mode of a feature, as computed from a snapshot. The underlying type
+ * is fixed, so any int is a value of the type; the library compares modes
+ * (NA and below allow no editor) and never indexes by them.
+ */
+enum EAccessMode : int {
     NI = 0, //!< not implemented
     NA = 1, //!< not available
     WO = 2, //!< write only

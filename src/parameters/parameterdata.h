@@ -22,7 +22,7 @@
 namespace ParameterCollection {
 
 //! Kinds of parameter, as returned by IParameter::getType() and stored in ParameterData::type.
-enum ParameterType {
+enum ParameterType : int {
     TypeUnknown = 0, //!< only in the placeholder snapshot
     TypeInteger = 1, //!< an integer; the object is also an IIntegerParameter, its snapshot an IntegerParameterData
     TypeBoolean = 2, //!< a boolean; the object is also an IBooleanParameter, its snapshot a BooleanParameterData
