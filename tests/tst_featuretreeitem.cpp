@@ -698,6 +698,26 @@ void TestFeatureTreeItem::shallowFinders()
     QVERIFY(top.findShallow(grandChild));
     QVERIFY(!child->findShallow(&top));
     QVERIFY(!top.findShallow(&stranger));
+    QVERIFY(!top.findShallow(nullptr));
+
+    // A child taken out of its parent's list is not found, though it still
+    // names that parent as its own.
+    auto* second = new FeatureTreeItem(QStringLiteral("Second"), m_model.get(), QStringLiteral("Second"), &top);
+    top.appendChild(second);
+    QVERIFY(top.findShallow(second));
+    QCOMPARE(top.removeChild(1), second);
+    QVERIFY(!top.findShallow(second));
+    // Nor is one below it.
+    auto* below = new FeatureTreeItem(QStringLiteral("Below"), m_model.get(), QStringLiteral("Below"), second);
+    second->appendChild(below);
+    QVERIFY(second->findShallow(below));
+    QVERIFY(!top.findShallow(below));
+    // The address of a deleted item is only compared, never followed (the
+    // sanitizer build would catch a read of it).
+    const FeatureTreeItem* gone = below;
+    delete second;
+    QVERIFY(!top.findShallow(gone));
+    QVERIFY(top.findShallow(grandChild));
     QCOMPARE(top.findByFullNameShallow(QStringLiteral("Grand")), grandChild);
     QVERIFY(!top.findByFullNameShallow(QStringLiteral("grand")));
     QCOMPARE(top.findByRoleShallow(Qt::DisplayRole, QStringLiteral("Child")), child);

@@ -11,7 +11,11 @@
 #include "featuretree/featuretreewidget.h"
 #include "syntheticnodemapgenerator.h"
 
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QLineEdit>
 #include <QPointer>
+#include <QScrollBar>
 #include <QTreeView>
 
 #include <functional>
@@ -112,6 +116,8 @@ private slots:
     void bulkChangesNestAndOpenEditorsAtTheOuterEnd();
     void editorsClosedInABulkChangeComeBackWhenTheirBranchIsShownAgain();
     void unmatchedEndOfBulkChangeIsRefused();
+    void editorsOutOfSightWaitHiddenUntilScrolledTo();
+    void focusedEditorStaysShownOutOfSight();
 
 private:
     static SearchEdit* searchLine(FeatureTreeWidget& widget) { return widget.findChild<SearchEdit*>("filterEdit"); }
@@ -403,6 +409,124 @@ void TestFeatureTreeWidgetLarge::unmatchedEndOfBulkChangeIsRefused()
     QVERIFY(tree.isInBulkChange());
     tree.endBulkChange();
     QVERIFY(!tree.isInBulkChange());
+}
+
+namespace {
+
+//! The value cells below expanded parents that have an editor, split by whether their row is in sight.
+void editorsBySight(FeatureTreeView& view, QList<QWidget*>* inSight, QList<QWidget*>* outOfSight)
+{
+    QAbstractItemModel* model = view.model();
+    std::function<void(const QModelIndex&)> visit = [&](const QModelIndex& parent) {
+        for (int row = 0; row < model->rowCount(parent); ++row) {
+            const QModelIndex value = model->index(row, 1, parent);
+            if (QWidget* editor = view.indexWidget(value)) {
+                if (view.visualRect(value).intersects(view.viewport()->rect()))
+                    inSight->append(editor);
+                else
+                    outOfSight->append(editor);
+            }
+            if (view.isExpanded(value.sibling(row, 0)))
+                visit(value.sibling(row, 0));
+        }
+    };
+    visit(QModelIndex());
+}
+
+} // namespace
+
+void TestFeatureTreeWidgetLarge::editorsOutOfSightWaitHiddenUntilScrolledTo()
+{
+    // Every row keeps its editor, but only those in sight are shown: shown
+    // sibling editors make each repaint look at all the others.
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    QVERIFY(census(*tree).missing.isEmpty());
+
+    QList<QWidget*> inSight;
+    QList<QWidget*> outOfSight;
+    editorsBySight(*tree, &inSight, &outOfSight);
+    QVERIFY2(inSight.size() > 5, qPrintable(QString::number(inSight.size())));
+    QVERIFY2(outOfSight.size() > inSight.size(), qPrintable(QString::number(outOfSight.size())));
+    for (QWidget* editor : qAsConst(inSight))
+        QVERIFY(editor->isVisible());
+    for (QWidget* editor : qAsConst(outOfSight))
+        QVERIFY(editor->isHidden());
+
+    // Scrolling brings the editors of the rows that come into sight out at
+    // once, on their rows, before anything else happens.
+    for (const int position : { tree->verticalScrollBar()->maximum() / 2, tree->verticalScrollBar()->maximum() }) {
+        tree->verticalScrollBar()->setValue(position);
+        QAbstractItemModel* model = tree->model();
+        int checked = 0;
+        std::function<void(const QModelIndex&)> visit = [&](const QModelIndex& parent) {
+            for (int row = 0; row < model->rowCount(parent); ++row) {
+                const QModelIndex value = model->index(row, 1, parent);
+                QWidget* editor = tree->indexWidget(value);
+                const QRect cell = tree->visualRect(value);
+                if (editor && cell.intersects(tree->viewport()->rect())) {
+                    const QString name = value.sibling(row, 0).data().toString();
+                    QVERIFY2(editor->isVisible(), qPrintable(name));
+                    QVERIFY2(cell.contains(editor->geometry().center()), qPrintable(name));
+                    ++checked;
+                }
+                if (tree->isExpanded(value.sibling(row, 0)))
+                    visit(value.sibling(row, 0));
+            }
+        };
+        visit(QModelIndex());
+        QVERIFY2(checked > 5, qPrintable(QString::number(checked)));
+    }
+    // And the census is unchanged once the events are handled.
+    QCoreApplication::processEvents();
+    const EditorCensus after = census(*tree);
+    QVERIFY(after.missing.isEmpty());
+    QVERIFY(after.extra.isEmpty());
+}
+
+void TestFeatureTreeWidgetLarge::focusedEditorStaysShownOutOfSight()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    QList<QWidget*> inSight;
+    QList<QWidget*> outOfSight;
+    editorsBySight(*tree, &inSight, &outOfSight);
+    QVERIFY(!inSight.isEmpty());
+    // An editor that takes the focus: a spin box or a line edit, enabled.
+    QWidget* editor = nullptr;
+    QWidget* focusTarget = nullptr;
+    for (QWidget* candidate : qAsConst(inSight)) {
+        for (QWidget* child : candidate->findChildren<QWidget*>()) {
+            if ((qobject_cast<QAbstractSpinBox*>(child) || qobject_cast<QLineEdit*>(child)) && child->isEnabled()
+                && child->focusPolicy() != Qt::NoFocus) {
+                editor = candidate;
+                focusTarget = child;
+                break;
+            }
+        }
+        if (editor)
+            break;
+    }
+    QVERIFY(editor);
+    widget->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(widget.get()));
+    focusTarget->setFocus();
+    QTRY_VERIFY(editor->isAncestorOf(QApplication::focusWidget()) || editor == QApplication::focusWidget());
+
+    // Scrolled far away and placed again: the editor being typed into stays
+    // shown and keeps the focus; the other editors of its old sight hide.
+    tree->verticalScrollBar()->setValue(tree->verticalScrollBar()->maximum());
+    tree->resize(tree->width(), tree->height() - 1);
+    QCoreApplication::processEvents();
+    QVERIFY(!editor->geometry().intersects(tree->viewport()->rect()));
+    QVERIFY(editor->isVisible());
+    QVERIFY(editor->isAncestorOf(QApplication::focusWidget()) || editor == QApplication::focusWidget());
+    int hidden = 0;
+    for (QWidget* other : qAsConst(inSight))
+        hidden += other != editor && other->isHidden() ? 1 : 0;
+    QCOMPARE(hidden, inSight.size() - 1);
 }
 
 QTEST_MAIN(TestFeatureTreeWidgetLarge)

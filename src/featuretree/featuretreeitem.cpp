@@ -4,7 +4,21 @@
 #include <QBrush>
 #include <QFontMetricsF>
 #include <QPalette>
+#include <QSet>
 #include <QSize>
+
+namespace {
+// Every item alive now, by address: findShallow() may be handed an address
+// from outside (a drag's data, a stale index) and must not follow it before
+// it knows that an item lives there. Items are made and deleted in the GUI
+// thread only. Never freed, so that items deleted during static destruction
+// still find it.
+QSet<const FeatureTreeItem*>& liveItems()
+{
+    static auto* items = new QSet<const FeatureTreeItem*>;
+    return *items;
+}
+} // namespace
 
 FeatureTreeItem::FeatureTreeItem(const QString& displayedName, IFeatureTreeModelExtension* extension,
     const QString& fullName, FeatureTreeItem* parent)
@@ -13,12 +27,14 @@ FeatureTreeItem::FeatureTreeItem(const QString& displayedName, IFeatureTreeModel
     , m_parent(parent)
     , m_extension(extension)
 {
+    liveItems().insert(this);
 }
 
 FeatureTreeItem::~FeatureTreeItem()
 {
     qDeleteAll(m_children);
     m_children.clear();
+    liveItems().remove(this);
 }
 
 void FeatureTreeItem::clearChildren()
@@ -289,13 +305,20 @@ void FeatureTreeItem::SetIsSpecialNode(bool special)
 
 bool FeatureTreeItem::findShallow(const FeatureTreeItem* item) const
 {
-    if (this == item)
-        return true;
-    for (const FeatureTreeItem* child : m_children) {
-        if (child->findShallow(item))
-            return true;
+    // Upwards from the item, each step checked against the parent's list of
+    // children: the same answer as a search of every built descendant, at
+    // the cost of the item's depth instead of the size of the tree. The
+    // view asks this for every editor it opens.
+    if (!item || !liveItems().contains(item))
+        return false;
+    const FeatureTreeItem* at = item;
+    while (at != this) {
+        const FeatureTreeItem* parent = at->m_parent;
+        if (!parent || !liveItems().contains(parent) || parent->child(at->row()) != at)
+            return false;
+        at = parent;
     }
-    return false;
+    return true;
 }
 
 FeatureTreeItem* FeatureTreeItem::findByFullNameShallow(const QString& fullName)

@@ -59,6 +59,11 @@ void FeatureTreeProxyModel::sourceRowsRemoved()
     // start afresh and are walked again when next asked for.
     if (m_addingCollection)
         return;
+    dropCounts();
+}
+
+void FeatureTreeProxyModel::dropCounts() const
+{
     m_visibleMatches.startPass();
     m_invisibleMatches.startPass();
     m_countsComplete = false;
@@ -68,9 +73,7 @@ void FeatureTreeProxyModel::followPattern() const
 {
     const SearchPattern pattern = SearchPattern::ofProxy(*this, m_pattern);
     if (pattern != m_pattern || m_visibility != m_passVisibility) {
-        m_visibleMatches.startPass();
-        m_invisibleMatches.startPass();
-        m_countsComplete = false;
+        dropCounts();
         m_pattern = pattern;
         m_passVisibility = m_visibility;
     }
@@ -84,9 +87,9 @@ void FeatureTreeProxyModel::completeCounts() const
     // category: a deep match would go uncounted. So the counts, once asked
     // for, come from one walk over every row of the source, by the same rule
     // and with the text and level of the present pass; the filtering that
-    // follows finds its names counted already. A level set but not yet
-    // filtered by counts from the next pass on, as it filters. Nothing is
-    // counted while a collection is being added.
+    // follows finds its names counted already. A level that is set but not
+    // filtered yet is counted from the next pass on, when it filters. Nothing
+    // is counted while a collection is being added.
     const QAbstractItemModel* source = sourceModel();
     if (!source || m_addingCollection || m_countingWalk)
         return;
@@ -101,6 +104,17 @@ void FeatureTreeProxyModel::completeCounts() const
     m_sourceIsFeatureTreeModel = source->metaObject() == &FeatureTreeModel::staticMetaObject;
     const bool wasCached = m_patternCached;
     m_patternCached = true;
+    // Restores both flags on every way out, a throwing row included.
+    struct WalkScope
+    {
+        const FeatureTreeProxyModel& proxy;
+        bool wasCached;
+        ~WalkScope()
+        {
+            proxy.m_countingWalk = false;
+            proxy.m_patternCached = wasCached;
+        }
+    } scope { *this, wasCached };
     m_countingWalk = true;
     QVector<QModelIndex> pending { QModelIndex() };
     while (!pending.isEmpty()) {
@@ -114,8 +128,6 @@ void FeatureTreeProxyModel::completeCounts() const
                 pending.append(index);
         }
     }
-    m_countingWalk = false;
-    m_patternCached = wasCached;
     m_countsComplete = true;
 }
 
@@ -382,10 +394,8 @@ void FeatureTreeProxyModel::startPass()
     // widget invalidates afterwards.
     if (m_addingCollection)
         return;
-    m_visibleMatches.startPass();
-    m_invisibleMatches.startPass();
+    dropCounts();
     m_patternKnown = false;
-    m_countsComplete = false;
     m_passDropped = true;
 }
 

@@ -159,6 +159,8 @@ private:
     bool readFilterFields(const QModelIndex& index, void* fieldsOut) const;
     //! Makes the counts those of the present text and level over every row of the source.
     void completeCounts() const;
+    // Empties both counts and marks them incomplete.
+    void dropCounts() const;
     //! Starts new counts if the text or the level differs from the present pass's.
     void followPattern() const;
 

@@ -9,6 +9,7 @@
 #include "messages/exceptionlogging.h"
 #include "signalblocker.h"
 
+#include <QApplication>
 #include <QPainter>
 
 #include <exception>
@@ -131,8 +132,16 @@ void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
     if (item->getAccessMode() <= GenApi::NA)
         return;
     QAbstractItemView::openPersistentEditor(index);
-    if (indexWidget(index))
-        m_editorIndexes.insert(index);
+    QWidget* editor = indexWidget(index);
+    if (!editor)
+        return;
+    m_editorIndexes.insert(index);
+    // The base class shows every new editor. One out of sight waits hidden
+    // until its row scrolls into view (see placeEditors()).
+    if (!m_placingEditors && !keepsEditorShown(index, QTreeView::visualRect(index))) {
+        editor->hide();
+        m_editorsOutOfSight = true;
+    }
 }
 
 void FeatureTreeView::beginBulkChange()
@@ -230,10 +239,71 @@ void FeatureTreeView::updateEditorGeometries()
 
 void FeatureTreeView::placeEditors()
 {
+    // Only the editors of the rows in sight are shown and placed; the base
+    // class hides those whose rectangle visualRect() gives as empty. Every
+    // shown sibling editor makes each repaint of the viewport's children
+    // look at all the others, so thousands of editors shown below the
+    // visible rows made expanding a large camera quadratic in its editors.
     m_placeEditorsPosted = false;
     m_placingEditors = true;
+    m_editorsOutOfSight = false;
     QTreeView::updateEditorGeometries();
     m_placingEditors = false;
+}
+
+bool FeatureTreeView::keepsEditorShown(QModelIndex const& index, QRect const& cell) const
+{
+    if (cell.intersects(viewport()->rect()))
+        return true;
+    // The editor being typed into keeps its focus, in sight or not.
+    QWidget* editor = indexWidget(index);
+    return editor && editor->isAncestorOf(QApplication::focusWidget());
+}
+
+QRect FeatureTreeView::visualRect(QModelIndex const& index) const
+{
+    const QRect cell = QTreeView::visualRect(index);
+    if (!m_placingEditors || !cell.isValid() || keepsEditorShown(index, cell))
+        return cell;
+    m_editorsOutOfSight = true;
+    return QRect();
+}
+
+void FeatureTreeView::scrollContentsBy(int dx, int dy)
+{
+    QTreeView::scrollContentsBy(dx, dy);
+    showEditorsInSight();
+}
+
+void FeatureTreeView::showEditorsInSight()
+{
+    if (!m_editorsOutOfSight || !model() || m_placingEditors)
+        return;
+    QStyleOptionViewItem option;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    option = viewOptions();
+#else
+    initViewItemOption(&option);
+#endif
+    const QRect sight = viewport()->rect();
+    for (QModelIndex name = indexAt(QPoint(0, 0)); name.isValid(); name = indexBelow(name)) {
+        const QModelIndex value = name.sibling(name.row(), 1);
+        const QRect cell = QTreeView::visualRect(value);
+        if (cell.top() > sight.bottom())
+            break;
+        QWidget* editor = indexWidget(value);
+        if (!editor || !editor->isHidden())
+            continue;
+        option.rect = cell;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        QAbstractItemDelegate* delegate = itemDelegate(value);
+#else
+        QAbstractItemDelegate* delegate = itemDelegateForIndex(value);
+#endif
+        if (delegate)
+            delegate->updateEditorGeometry(editor, option, value);
+        editor->show();
+    }
 }
 
 void FeatureTreeView::forEachValueCell(QModelIndex const& parent,

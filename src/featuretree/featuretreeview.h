@@ -154,7 +154,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     //! Places the editors once per turn of the event loop, however often it is asked.
     void updateEditorGeometries() override;
+    //! Scrolls, then shows the editors of the rows that came into sight.
+    void scrollContentsBy(int dx, int dy) override;
 
+public:
+    //! The cell's rectangle; while the editors are placed, an empty one for a cell out of sight.
+    QRect visualRect(QModelIndex const& index) const override;
+
+protected:
     //! Makes model, proxy and delegate; a subclass may make others.
     virtual void createModel();
 
@@ -169,6 +176,10 @@ private:
     void closeEditorsForBulkChange();
     //! Places the editors once for all the layout changes since the last call.
     void placeEditors();
+    //! Whether the cell's editor stays shown although its row is out of sight.
+    bool keepsEditorShown(QModelIndex const& index, QRect const& cell) const;
+    //! Shows and places the hidden editors of the rows in sight.
+    void showEditorsInSight();
 
     GenApi::EVisibility m_visibility;
     QSet<QPersistentModelIndex> m_persistentIndexes;
@@ -186,4 +197,6 @@ private:
     qint64 m_bulkEditorBudget = 0;
     bool m_placeEditorsPosted = false;
     bool m_placingEditors = false;
+    // Some editor was hidden because its row was out of sight.
+    mutable bool m_editorsOutOfSight = false;
 };
