@@ -135,15 +135,25 @@ void settleAndPaint(QWidget* window)
     QCoreApplication::processEvents();
 }
 
-int editorCount(const QAbstractItemView* view)
+//! The editors open on value cells below expanded parents, shown or not: the
+//! feature tree keeps those of rows out of sight hidden until they scroll in.
+int editorCountBelow(const QTreeView* view, const QModelIndex& parent)
 {
+    const QAbstractItemModel* model = view->model();
     int count = 0;
-    for (QObject* child : view->viewport()->children()) {
-        auto* widget = qobject_cast<QWidget*>(child);
-        if (widget && widget->isVisibleTo(view->viewport()))
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex name = model->index(row, 0, parent);
+        if (view->indexWidget(model->index(row, 1, parent)))
             ++count;
+        if (view->isExpanded(name))
+            count += editorCountBelow(view, name);
     }
     return count;
+}
+
+int editorCount(const QTreeView* view)
+{
+    return view->model() ? editorCountBelow(view, QModelIndex()) : 0;
 }
 
 int visibleRows(const QTreeView* view, const QModelIndex& parent)
