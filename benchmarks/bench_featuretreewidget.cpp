@@ -29,7 +29,8 @@
 // With "--search-only 10000" it builds only the feature tree on that many
 // synthetic features and times expanding, the search keystroke and clearing
 // the search, for a profiler; "--first-paint-only 10000" only the first
-// paint. "--skip-100k" leaves the largest camera out.
+// paint. "--skip-100k" leaves the largest camera out. "--screenshot 10000
+// tree.png" saves a picture of that tree, expanded and scrolled halfway.
 
 #include "benchmarkutil.h"
 
@@ -43,6 +44,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
@@ -671,6 +673,23 @@ int main(int argc, char** argv)
         out << "search keystroke [ms] " << ms(BenchmarkUtil::timeMs([&] { tree.type(camera.searchKey); })) << '\n';
         out << "clear the search [ms] " << ms(BenchmarkUtil::timeMs([&] { tree.clearSearch(); })) << '\n';
         return 0;
+    }
+
+    // --screenshot N file: the feature tree on N synthetic features, every
+    // category expanded and scrolled to the middle, saved as a PNG; to look
+    // at what a person sees of a large tree.
+    const int screenshot = arguments.indexOf(QStringLiteral("--screenshot"));
+    if (screenshot > 0 && screenshot + 2 < arguments.size()) {
+        const Camera camera = syntheticCamera(arguments.at(screenshot + 1).toInt(), -1, -1);
+        OurTree tree(camera);
+        tree.showAndPaint();
+        tree.expandAll();
+        QScrollBar* bar = tree.widget.treeView()->verticalScrollBar();
+        bar->setValue(bar->maximum() / 2);
+        settleAndPaint(&tree.widget);
+        const bool saved = tree.widget.grab().save(arguments.at(screenshot + 2));
+        out << (saved ? "saved " : "could not save ") << arguments.at(screenshot + 2) << '\n';
+        return saved ? 0 : 1;
     }
 
     // --first-paint-only N: only constructing, adding and the first paint of
