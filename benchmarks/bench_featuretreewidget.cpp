@@ -692,6 +692,23 @@ int main(int argc, char** argv)
         return saved ? 0 : 1;
     }
 
+    // --poll-only N: N poll ticks of the feature tree of the poll figure
+    // below; for a profiler.
+    const int pollOnly = arguments.indexOf(QStringLiteral("--poll-only"));
+    if (pollOnly > 0 && pollOnly + 1 < arguments.size()) {
+        const Camera polled = syntheticCamera(1600, 100, 10);
+        OurTree tree(polled);
+        tree.showAndPaint();
+        tree.expandAll();
+        const int ticks = arguments.at(pollOnly + 1).toInt();
+        out << "poll ticks [ms] " << ms(BenchmarkUtil::timeMs([&] {
+            for (int tick = 0; tick < ticks; ++tick)
+                tree.pollTick();
+        }) / qMax(1, ticks))
+            << " each\n";
+        return 0;
+    }
+
     // --first-paint-only N: only constructing, adding and the first paint of
     // the feature tree on N synthetic features; for a profiler.
     const int firstPaintOnly = arguments.indexOf(QStringLiteral("--first-paint-only"));

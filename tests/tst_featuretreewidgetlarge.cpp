@@ -14,8 +14,10 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPointer>
 #include <QScrollBar>
+#include <QSortFilterProxyModel>
 #include <QTreeView>
 
 #include <functional>
@@ -118,6 +120,7 @@ private slots:
     void unmatchedEndOfBulkChangeIsRefused();
     void editorsOutOfSightWaitHiddenUntilScrolledTo();
     void focusedEditorStaysShownOutOfSight();
+    void aChangedValueRepaintsItsRowOnly();
 
 private:
     static SearchEdit* searchLine(FeatureTreeWidget& widget) { return widget.findChild<SearchEdit*>("filterEdit"); }
@@ -527,6 +530,66 @@ void TestFeatureTreeWidgetLarge::focusedEditorStaysShownOutOfSight()
     for (QWidget* other : qAsConst(inSight))
         hidden += other != editor && other->isHidden() ? 1 : 0;
     QCOMPARE(hidden, inSight.size() - 1);
+}
+
+namespace {
+
+//! Collects the regions of the paint events of a widget.
+class PaintRecorder : public QObject
+{
+public:
+    QRegion painted;
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            painted += static_cast<QPaintEvent*>(event)->region();
+            ++paints;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+void TestFeatureTreeWidgetLarge::aChangedValueRepaintsItsRowOnly()
+{
+    // A polled value changes many times a second; its row is repainted, not
+    // the whole tree with every editor in sight.
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    QList<QWidget*> inSight;
+    QList<QWidget*> outOfSight;
+    editorsBySight(*tree, &inSight, &outOfSight);
+    QVERIFY(!inSight.isEmpty());
+    const QModelIndex value = tree->indexAt(inSight.last()->geometry().center()).siblingAtColumn(1);
+    QVERIFY(value.isValid());
+    QVERIFY(!tree->isFirstColumnSpanned(value.row(), value.parent()));
+    auto* proxy = qobject_cast<QSortFilterProxyModel*>(tree->model());
+    QVERIFY(proxy);
+    const QModelIndex source = proxy->mapToSource(value);
+
+    PaintRecorder recorder;
+    tree->viewport()->installEventFilter(&recorder);
+    QCoreApplication::processEvents();
+    recorder.painted = QRegion();
+    recorder.paints = 0;
+    emit proxy->sourceModel()->dataChanged(source, source);
+    QTRY_VERIFY(recorder.paints > 0);
+    const QRect row = tree->visualRect(value).united(tree->visualRect(value.siblingAtColumn(0)));
+    QVERIFY2(row.contains(recorder.painted.boundingRect()),
+        qPrintable(QStringLiteral("painted %1,%2 %3x%4; the row is %5,%6 %7x%8")
+                       .arg(recorder.painted.boundingRect().x())
+                       .arg(recorder.painted.boundingRect().y())
+                       .arg(recorder.painted.boundingRect().width())
+                       .arg(recorder.painted.boundingRect().height())
+                       .arg(row.x())
+                       .arg(row.y())
+                       .arg(row.width())
+                       .arg(row.height())));
 }
 
 QTEST_MAIN(TestFeatureTreeWidgetLarge)

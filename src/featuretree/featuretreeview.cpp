@@ -486,8 +486,14 @@ void FeatureTreeView::dataChanged(QModelIndex const& topLeft, QModelIndex const&
         try {
             const QModelIndex parent = topLeft.parent();
             const int row = topLeft.row();
-            if (topLeft.isValid())
-                setFirstColumnSpanned(row, parent, topLeft.data(FeatureTreeItem::IsFullRowRole).toBool());
+            // Setting the span repaints the whole viewport, so it is set only
+            // when it changes: a value that changes at each poll repaints its
+            // own cell alone.
+            if (topLeft.isValid()) {
+                const bool span = topLeft.data(FeatureTreeItem::IsFullRowRole).toBool();
+                if (isFirstColumnSpanned(row, parent) != span)
+                    setFirstColumnSpanned(row, parent, span);
+            }
             FeatureTreeItem* item = extension->getFeatureTreeItem(topLeft);
             if (topLeft.isValid() && topLeft.column() == 1) {
                 if (item) {
