@@ -103,9 +103,8 @@ bool AravisStream::start(int bufferCount)
         return false;
     }
     GError* error = nullptr;
-    ArvCamera* camera = arv_camera_new_with_device(ARV_DEVICE(g_object_ref(m_device->arvDevice())), &error);
-    // arv_camera_new_with_device takes a reference of its own.
-    g_object_unref(m_device->arvDevice());
+    // The camera takes a reference of its own to the device.
+    ArvCamera* camera = arv_camera_new_with_device(m_device->arvDevice(), &error);
     if (!camera) {
         m_error = takeError(&error, QStringLiteral("Aravis could not make a camera of the device"));
         return false;
