@@ -50,10 +50,18 @@ AravisDevice::AravisDevice(_ArvDevice* device, const QString& id, const QString&
         *error = state->xmlIndex().errorString();
         return;
     }
+    const QString rootProblem = state->xmlIndex().problem(QStringLiteral("Root"));
+    if (!rootProblem.isEmpty()) {
+        *error = QStringLiteral("the GenICam document's Root category is unusable: %1").arg(rootProblem);
+        return;
+    }
     if (!arv_device_get_genicam(m_device) || !state->hasParameter(QStringLiteral("Root"))) {
         *error = QStringLiteral("the GenICam document has no Root category");
         return;
     }
+    if (const int problems = state->xmlIndex().problemCount())
+        qWarning("The GenICam document of %s has %d nodes that can't be used and are left out; %s", qPrintable(id),
+            problems, qPrintable(state->xmlIndex().firstProblem()));
     m_cameraNodeMap.reset(new AravisNodeMap(state));
 }
 

@@ -258,7 +258,7 @@ void NodeMapState::markLost(const QString& reason) const
 
 int NodeMapState::kindOfNode(const QString& name) const
 {
-    if (!m_index.contains(name))
+    if (!m_index.contains(name) || !m_index.problem(name).isEmpty())
         return TypeUnknown;
     ArvGcNode* node = arv_gc_get_node(arv_device_get_genicam(m_device), name.toUtf8().constData());
     if (!node || !ARV_IS_GC_FEATURE_NODE(node))
@@ -329,6 +329,7 @@ int NodeMapState::entryFor(const QString& name) const
     m_entries.push_back(entry);
     const int index = int(m_entries.size()) - 1;
     m_byFullName.insert(fullName, index);
+    m_byNode[QString::fromUtf8(entry.node)].append(index);
     return index;
 }
 
@@ -382,17 +383,28 @@ QList<QString> NodeMapState::childNames(const QString& name, bool recursive, boo
     if (index < 0)
         throwGeneric(QStringLiteral("%1: no such feature in %2").arg(name, m_nodeMapName));
     QList<QString> names;
-    const Entry entry = m_entries.at(index);
-    if (entry.kind != TypeCategory)
+    if (m_entries.at(index).kind != TypeCategory)
         return names;
-    for (const QString& child : m_index.node(QString::fromUtf8(entry.node)).features) {
+    // The whole subtree depth first, without recursion: categories may nest
+    // thousands deep, and a document that lists one category in two others at
+    // every level makes a tree that doubles with each level.
+    QVector<QPair<QStringList, int>> path { { m_index.node(QString::fromUtf8(m_entries.at(index).node)).features, 0 } };
+    while (!path.isEmpty()) {
+        if (path.last().second >= path.last().first.size()) {
+            path.removeLast();
+            continue;
+        }
+        const QString child = path.last().first.at(path.last().second++);
         const QString fullName = m_nodeMapName + QLatin1Char('/') + child;
         // Features that Aravis doesn't offer as one of the kinds are left out of the tree.
-        if (entryFor(fullName) < 0)
+        const int childIndex = entryFor(fullName);
+        if (childIndex < 0)
             continue;
+        if (names.size() >= maximumListing)
+            throwGeneric(QStringLiteral("%1: too many features below it (more than %2)").arg(name).arg(maximumListing));
         names.append(fullName);
-        if (recursive)
-            names += childNames(fullName, true, true);
+        if (recursive && m_entries.at(childIndex).kind == TypeCategory)
+            path.append({ m_index.node(child).features, 0 });
     }
     if (!presentationOrder)
         std::sort(names.begin(), names.end());
@@ -405,6 +417,9 @@ void NodeMapState::throwZombie(const QString& fullName) const
 {
     if (m_lost)
         throwGeneric(QStringLiteral("%1: the device is gone (%2)").arg(fullName, m_lostReason));
+    const QString problem = m_index.problem(fullName.mid(fullName.indexOf(QLatin1Char('/')) + 1));
+    if (!problem.isEmpty())
+        throwGeneric(QStringLiteral("%1: left out of %2, %3").arg(fullName, m_nodeMapName, problem));
     throwGeneric(QStringLiteral("%1: no such feature in %2").arg(fullName, m_nodeMapName));
 }
 
@@ -583,10 +598,14 @@ QSharedPointer<const ParameterData> NodeMapState::readSnapshot(const Entry& entr
         ArvGcEnumeration* gcEnum = ARV_GC_ENUMERATION(node);
         // Aravis keeps the entries in reverse; the document's order is the one to show.
         const QStringList order = m_index.node(QString::fromUtf8(entry.node)).entries;
+        QHash<QString, int> positions;
+        positions.reserve(order.size());
+        for (int i = order.size() - 1; i >= 0; --i)
+            positions.insert(order.at(i), i);
         QVector<QPair<int, ArvGcFeatureNode*>> entries;
         for (const GSList* item = arv_gc_enumeration_get_entries(gcEnum); item; item = item->next) {
             auto* entryNode = ARV_GC_FEATURE_NODE(item->data);
-            const int position = order.indexOf(QString::fromUtf8(arv_gc_feature_node_get_name(entryNode)));
+            const int position = positions.value(QString::fromUtf8(arv_gc_feature_node_get_name(entryNode)), -1);
             entries.append({ position < 0 ? order.size() : position, entryNode });
         }
         std::stable_sort(
@@ -885,9 +904,16 @@ void NodeMapState::afterWrite(int index)
 {
     const QSet<QString> affected = m_index.affectedByWrite(QString::fromUtf8(m_entries.at(index).node));
     refresh(index);
-    for (int i = 0; i < int(m_entries.size()); ++i) {
-        if (i == index || !m_entries.at(i).object || !affected.contains(QString::fromUtf8(m_entries.at(i).node)))
-            continue;
+    // The entries of the affected nodes, in the order they were made, as every
+    // feature held would be visited: a node map of 100 000 features is not
+    // walked for each write.
+    QVector<int> dependents;
+    for (const QString& node : affected)
+        for (const int i : m_byNode.value(node))
+            if (i != index && m_entries.at(i).object)
+                dependents.append(i);
+    std::sort(dependents.begin(), dependents.end());
+    for (const int i : qAsConst(dependents)) {
         try {
             refresh(i);
         } catch (const std::exception&) {

@@ -79,6 +79,9 @@ public:
 
     enum Which { Value, Minimum, Maximum };
 
+    //! Most names a recursive childNames() gives before it throws.
+    static constexpr int maximumListing = 1000000;
+
 signals:
     //! The device is gone; emitted once, from the event loop of the state's thread.
     void lost(const QString& reason);
@@ -126,6 +129,7 @@ private:
     GenICamXmlIndex m_index;
     mutable std::vector<Entry> m_entries;
     mutable QHash<QString, int> m_byFullName;
+    mutable QHash<QString, QVector<int>> m_byNode; //!< Aravis node -> the entries that stand for it
     QVector<QPair<int, QSharedPointer<const ParameterCollection::ParameterData>>> m_pending;
     bool m_flushScheduled = false;
     mutable bool m_lost = false;

@@ -5,9 +5,11 @@
 # state seeded with two states as the widget writes them, and the address
 # validators with the IP address dialog, seeded with a few sets; the
 # favourites settings file, a drop payload of tree items, and the simulated
-# camera's JSON device description, each with its seeds; and the public
+# camera's JSON device description, each with its seeds; the public
 # slots, methods and properties of the exported classes, called through
-# QMetaObject on several widgets at once. Fails on any
+# QMetaObject on several widgets at once; and a camera's GenICam document
+# through the Aravis backend, seeded with small documents, ours and Aravis's
+# own fake camera's (where Aravis is built). Fails on any
 # crash, sanitizer report, leak, time-out or memory blow-up; the input that
 # caused it is kept in build-fuzz/artifacts/.
 #   scripts/fuzz-smoke.sh            180 seconds in all
@@ -26,6 +28,9 @@ fi
 "$root/scripts/setup.sh" "${setup_arguments[@]}"
 
 fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators fuzz_favoritessettings fuzz_dropmime fuzz_devicejson fuzz_metaobject)
+if pkg-config --exists aravis-0.8; then
+    fuzzers+=(fuzz_genicamdocument)
+fi
 share=$(( seconds / ${#fuzzers[@]} ))
 if [ "$share" -lt 1 ]; then
     share=1
@@ -105,3 +110,13 @@ ASAN_OPTIONS="$ASAN_OPTIONS:fast_unwind_on_malloc=0" run fuzz_devicejson "$corpu
 corpus="$build/corpus/metaobject"
 mkdir -p "$corpus"
 run fuzz_metaobject -detect_leaks=0 "$corpus" "$root/fuzz/seeds/metaobject"
+
+if [[ " ${fuzzers[*]} " == *" fuzz_genicamdocument "* ]]; then
+    corpus="$build/corpus/genicamdocument"
+    seeds="$build/corpus/genicamdocument-seeds"
+    mkdir -p "$corpus" "$seeds"
+    # Aravis's own fake camera's document joins the seeds: the fuzzer writes it at its start.
+    ZVC_FUZZ_WRITE_ARAVIS_SEED="$seeds/aravis-fake-camera.xml" run fuzz_genicamdocument \
+        -dict="$root/fuzz/genicamdocument.dict" -max_len=65536 \
+        "$corpus" "$seeds" "$root/fuzz/seeds/genicamdocument" "$root/tests/aravis"
+fi
