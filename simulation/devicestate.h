@@ -41,6 +41,14 @@ struct FeatureRef
  * One mutex guards everything. Public functions take it themselves; the
  * private ones, named ...Locked or called only from those, expect it held.
  * The lock is never held while a signal is emitted.
+ *
+ * The definitions are spread by concern: devicestate.cpp builds the state from
+ * its description and holds the device's hooks; devicestateevaluation.cpp the
+ * expressions, access and ranges; devicestatesnapshots.cpp the snapshots;
+ * devicestatedelivery.cpp the queue of change signals and its dispatcher;
+ * devicestatelookup.cpp the look-ups by name; devicestatepolling.cpp pending
+ * device values and the poll rules; devicestateparameters.cpp the operations
+ * of the parameter objects.
  */
 class DeviceState : public QEnableSharedFromThis<DeviceState>
 {
