@@ -18,6 +18,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
+#include <QMap>
 #include <QMenu>
 #include <QMessageBox>
 #include <QProcess>
@@ -109,6 +111,8 @@ private slots:
     void pollingMenuEntryAndCheckBoxStayInStep();
     void failedWriteIsShownWithItsDetails();
     void languageMenuRetranslatesTheTree();
+    void everyTextOfTheWindowChangesLanguage_data();
+    void everyTextOfTheWindowChangesLanguage();
     void settingsKeepTheLastCameraAndLevel();
     void screenshotModeWritesThePictureOfTheWindow();
 
@@ -322,6 +326,78 @@ void TestViewer::languageMenuRetranslatesTheTree()
     auto* tools = m_window->findChild<QMenu*>(QStringLiteral("menuTools"));
     QVERIFY(tools);
     QCOMPARE(tools->title(), QStringLiteral("&Tools"));
+}
+
+namespace {
+
+//! The texts a user reads in the window: menu titles, actions, labels, the camera list and the level combo.
+QMap<QString, QString> windowTexts(const QMainWindow* window)
+{
+    QMap<QString, QString> texts;
+    for (const QMenu* menu : window->findChildren<QMenu*>()) {
+        if (!menu->objectName().isEmpty())
+            texts.insert(menu->objectName(), menu->title());
+    }
+    // The tree's own actions are the library's, translated by its catalogue when they are shown.
+    const QObject* tree = window->findChild<QObject*>(QStringLiteral("featureTree"));
+    for (const QAction* action : window->findChildren<QAction*>()) {
+        bool inTree = false;
+        for (const QObject* o = action; o && !inTree; o = o->parent())
+            inTree = o == tree;
+        if (!inTree && !action->objectName().isEmpty() && !action->text().isEmpty())
+            texts.insert(action->objectName(), action->text());
+    }
+    // The captions of the camera list, the level and the feature pane's fields.
+    for (const QLabel* label : window->findChildren<QLabel*>()) {
+        if (label->buddy() && !label->text().isEmpty())
+            texts.insert(label->buddy()->objectName() + QLatin1String(" caption"), label->text());
+    }
+    // The feature pane's fields that the viewer names itself.
+    for (const char* field : { "type", "access", "visibility" }) {
+        if (const auto* label = window->findChild<QLabel*>(QLatin1String(field)))
+            texts.insert(QLatin1String(field), label->text());
+    }
+    if (const auto* cameras = window->findChild<QListWidget*>(QStringLiteral("cameraList"))) {
+        for (int row = 0; row < cameras->count(); ++row)
+            texts.insert(QStringLiteral("camera %1").arg(row), cameras->item(row)->text());
+    }
+    if (const auto* combo = window->findChild<QComboBox*>(QStringLiteral("levelCombo"))) {
+        for (int row = 0; row < combo->count(); ++row)
+            texts.insert(QStringLiteral("level %1").arg(row), combo->itemText(row));
+    }
+    texts.insert(QStringLiteral("window title"), window->windowTitle());
+    return texts;
+}
+
+} // namespace
+
+void TestViewer::everyTextOfTheWindowChangesLanguage_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::newRow("ja") << QStringLiteral("ja");
+    QTest::newRow("ko") << QStringLiteral("ko");
+    QTest::newRow("zh") << QStringLiteral("zh");
+}
+
+void TestViewer::everyTextOfTheWindowChangesLanguage()
+{
+    QFETCH(QString, code);
+    QVERIFY(m_window->openCamera(0));
+    QVERIFY(m_window->selectFeature(QStringLiteral("@CameraDevice/Gain")));
+    const QMap<QString, QString> english = windowTexts(m_window.get());
+    QVERIFY(english.size() > 40);
+    QVERIFY(m_window->setLanguage(code));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+    const QMap<QString, QString> translated = windowTexts(m_window.get());
+    QStringList unchanged;
+    for (auto it = english.constBegin(); it != english.constEnd(); ++it) {
+        if (translated.value(it.key()) == it.value())
+            unchanged.append(it.key() + QLatin1String(": ") + it.value());
+    }
+    QVERIFY2(unchanged.isEmpty(), qPrintable(unchanged.join(QLatin1Char('\n'))));
+    QVERIFY(m_window->setLanguage(QStringLiteral("en")));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+    QCOMPARE(windowTexts(m_window.get()), english);
 }
 
 void TestViewer::settingsKeepTheLastCameraAndLevel()

@@ -3,6 +3,7 @@
 
 #include "nodemapprinter.h"
 #include "viewermainwindow.h"
+#include "viewertranslations.h"
 
 #include "simulatedcamera.h"
 
@@ -34,9 +35,20 @@ bool wantsPrinting(int argc, char** argv)
     return false;
 }
 
-} // namespace
-
-namespace {
+//! The code given with --language, for the texts shown before the window: the help and the messages.
+QString languageArgument(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QString argument = QString::fromLocal8Bit(argv[i]);
+        for (const QLatin1String prefix : { QLatin1String("--language"), QLatin1String("-language") }) {
+            if (argument == prefix && i + 1 < argc)
+                return QString::fromLocal8Bit(argv[i + 1]);
+            if (argument.startsWith(QString(prefix) + QLatin1Char('=')))
+                return argument.mid(prefix.size() + 1);
+        }
+    }
+    return QString();
+}
 
 int showWindow(const QCommandLineParser& parser, const QCommandLineOption& deviceOption,
     const QCommandLineOption& transportOption, const QCommandLineOption& aravisOption,
@@ -74,7 +86,8 @@ int showWindow(const QCommandLineParser& parser, const QCommandLineOption& devic
         const QString file = parser.value(screenshotOption);
         const QImage image = window.grab().toImage();
         if (!image.save(file, "PNG")) {
-            QTextStream(stderr) << "zarvex-viewer: cannot write " << file << '\n';
+            QTextStream(stderr) << "zarvex-viewer: " << QCoreApplication::translate("main", "cannot write %1").arg(file)
+                                << '\n';
             QCoreApplication::exit(1);
             return;
         }
@@ -95,27 +108,36 @@ int main(int argc, char** argv)
     QCoreApplication& app = *application;
     QCoreApplication::setOrganizationName(QStringLiteral("Zarvex"));
     QCoreApplication::setApplicationName(QStringLiteral("zarvex-viewer"));
+    ViewerTranslations translations;
+    const QString language = languageArgument(argc, argv);
+    if (!language.isEmpty())
+        translations.install(language);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Shows the features of a simulated or a real camera."));
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "Shows the features of a simulated or a real camera."));
     parser.addHelpOption();
     const QCommandLineOption transportOption(QStringLiteral("transport"),
-        QStringLiteral("Transport-layer type: GEV, U3V, IIDC, CamEmu, ..."), QStringLiteral("type"),
-        QStringLiteral("GEV"));
-    const QCommandLineOption deviceOption(
-        QStringLiteral("device"), QStringLiteral("A device description of your own (JSON)."), QStringLiteral("file"));
-    const QCommandLineOption depthOption(QStringLiteral("depth"), QStringLiteral("Deepest level printed."),
-        QStringLiteral("levels"), QStringLiteral("100"));
-    const QCommandLineOption printOption(
-        QStringLiteral("print"), QStringLiteral("Print the node maps as a tree instead of opening a window."));
+        QCoreApplication::translate("main", "Transport-layer type: GEV, U3V, IIDC, CamEmu, ..."),
+        QCoreApplication::translate("main", "type"), QStringLiteral("GEV"));
+    const QCommandLineOption deviceOption(QStringLiteral("device"),
+        QCoreApplication::translate("main", "A device description of your own (JSON)."),
+        QCoreApplication::translate("main", "file"));
+    const QCommandLineOption depthOption(QStringLiteral("depth"),
+        QCoreApplication::translate("main", "Deepest level printed."), QCoreApplication::translate("main", "levels"),
+        QStringLiteral("100"));
+    const QCommandLineOption printOption(QStringLiteral("print"),
+        QCoreApplication::translate("main", "Print the node maps as a tree instead of opening a window."));
     const QCommandLineOption screenshotOption(QStringLiteral("screenshot"),
-        QStringLiteral("Open the camera, save a picture of the window to the PNG file and exit."),
-        QStringLiteral("file"));
+        QCoreApplication::translate("main", "Open the camera, save a picture of the window to the PNG file and exit."),
+        QCoreApplication::translate("main", "file"));
     const QCommandLineOption languageOption(QStringLiteral("language"),
-        QStringLiteral("Language of the window: en, ja, ko or zh."), QStringLiteral("code"));
+        QCoreApplication::translate("main", "Language of the window: en, ja, ko or zh."),
+        QCoreApplication::translate("main", "code"));
     const QCommandLineOption aravisOption(QStringLiteral("aravis"),
-        QStringLiteral("Show a real camera through Aravis instead of the simulated one: the camera named by [id], "
-                       "else the first one found."));
+        QCoreApplication::translate("main",
+            "Show a real camera through Aravis instead of the simulated one: the camera named by [id], "
+            "else the first one found."));
     parser.addOption(transportOption);
     parser.addOption(deviceOption);
     parser.addOption(depthOption);
@@ -123,8 +145,9 @@ int main(int argc, char** argv)
     parser.addOption(aravisOption);
     parser.addOption(screenshotOption);
     parser.addOption(languageOption);
-    parser.addPositionalArgument(
-        QStringLiteral("id"), QStringLiteral("Aravis id of the camera (with --aravis)."), QStringLiteral("[id]"));
+    parser.addPositionalArgument(QStringLiteral("id"),
+        QCoreApplication::translate("main", "Aravis id of the camera (with --aravis)."),
+        QCoreApplication::translate("main", "[id]"));
     parser.process(app);
 
     if (!parser.isSet(printOption))
@@ -142,21 +165,28 @@ int main(int argc, char** argv)
         const QStringList ids = parser.positionalArguments();
         const QList<Aravis::CameraInfo> cameras = Aravis::AravisCamera::listCameras();
         for (const Aravis::CameraInfo& camera : cameras)
-            out << "Found " << camera.id << " (" << camera.protocol << ", " << camera.address << ")\n";
+            out << QCoreApplication::translate("main", "Found %1 (%2, %3)")
+                       .arg(camera.id, camera.protocol, camera.address)
+                << '\n';
         QString error;
         const auto camera = Aravis::AravisCamera::open(ids.value(0), &error);
         if (!camera) {
             err << "zarvex-viewer: " << error << '\n';
             return 1;
         }
-        out << "Aravis camera " << camera->id() << ", transport layer " << camera->transportLayerType() << '\n';
+        out << QCoreApplication::translate("main", "Aravis camera %1, transport layer %2")
+                   .arg(camera->id(), camera->transportLayerType())
+            << '\n';
         for (const QString& name : camera->nodeMapNames()) {
             const int count = printer.print(camera->nodeMap(name), name);
-            out << "  (" << count << " features shown)\n";
+            out << "  " << QCoreApplication::translate("main", "(%1 features shown)").arg(count) << '\n';
         }
         return 0;
 #else
-        err << "zarvex-viewer: built without Aravis (install libaravis-dev and configure with ZVC_BUILD_ARAVIS=ON)\n";
+        err << "zarvex-viewer: "
+            << QCoreApplication::translate(
+                   "main", "built without Aravis (install libaravis-dev and configure with ZVC_BUILD_ARAVIS=ON)")
+            << '\n';
         return 1;
 #endif
     }
@@ -174,10 +204,11 @@ int main(int argc, char** argv)
         device = Simulation::SimulatedCamera::createDefault(parser.value(transportOption));
     }
 
-    out << "Simulated camera, transport layer " << device->transportLayerType() << '\n';
+    out << QCoreApplication::translate("main", "Simulated camera, transport layer %1").arg(device->transportLayerType())
+        << '\n';
     for (const QString& name : device->nodeMapNames()) {
         const int count = printer.print(device->nodeMap(name), name);
-        out << "  (" << count << " features shown)\n";
+        out << "  " << QCoreApplication::translate("main", "(%1 features shown)").arg(count) << '\n';
     }
     return 0;
 }

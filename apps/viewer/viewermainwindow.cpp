@@ -109,8 +109,6 @@ ViewerMainWindow::ViewerMainWindow(QWidget* parent)
 ViewerMainWindow::~ViewerMainWindow()
 {
     closeCamera();
-    if (!m_translator.isEmpty())
-        QCoreApplication::removeTranslator(&m_translator);
 }
 
 QStringList ViewerMainWindow::simulatedTransportTypes()
@@ -120,7 +118,7 @@ QStringList ViewerMainWindow::simulatedTransportTypes()
 
 QStringList ViewerMainWindow::languages()
 {
-    return { QStringLiteral("en"), QStringLiteral("ja"), QStringLiteral("ko"), QStringLiteral("zh") };
+    return ViewerTranslations::languages();
 }
 
 void ViewerMainWindow::addCameraEntry(const QString& text, CameraKind kind, const QString& source)
@@ -592,18 +590,8 @@ void ViewerMainWindow::on_actionAbout_triggered()
 
 bool ViewerMainWindow::setLanguage(const QString& code)
 {
-    if (!languages().contains(code)) {
-        qDebug("zarvex-viewer: there is no catalogue for the language %s", qPrintable(code));
+    if (!m_translations.install(code))
         return false;
-    }
-    if (!m_translator.isEmpty())
-        QCoreApplication::removeTranslator(&m_translator);
-    const QString file = QStringLiteral(":/translation/ZarvexViewerComponents_%1.qm").arg(code);
-    if (!m_translator.load(file)) {
-        qWarning("zarvex-viewer: the catalogue %s cannot be loaded", qPrintable(file));
-        return false;
-    }
-    QCoreApplication::installTranslator(&m_translator);
     m_language = code;
     for (QAction* action : m_languageGroup->actions())
         action->setChecked(action->data().toString() == code);

@@ -3,11 +3,11 @@
 #include "messages/asyncerrorqueue.h"
 #include "parameters/genapienums.h"
 #include "parameters/iparameter.h"
+#include "viewertranslations.h"
 
 #include <QMainWindow>
 #include <QPointer>
 #include <QSharedPointer>
-#include <QTranslator>
 
 #include <memory>
 
@@ -40,7 +40,7 @@ public:
 
     //! The transport-layer types on which the default simulated camera is listed.
     static QStringList simulatedTransportTypes();
-    //! The language codes of the library's catalogues, "en" first.
+    //! The language codes of the catalogues, "en" first.
     static QStringList languages();
 
     //! Adds a camera from a JSON description; false, with the reason, if the file is refused.
@@ -55,7 +55,7 @@ public:
     //! Makes the feature with that full name ("@CameraDevice/Gain") the tree's current row; false if absent.
     bool selectFeature(const QString& fullName);
 
-    //! Installs the library's catalogue for the code ("en", "ja", "ko", "zh") and retranslates.
+    //! Installs the library's and the viewer's catalogues for the code ("en", "ja", "ko", "zh") and retranslates.
     bool setLanguage(const QString& code);
     QString language() const;
 
@@ -114,7 +114,7 @@ private:
     QPointer<FeatureTreeWidget> m_tree;
     QSharedPointer<ViewerCamera> m_camera;
     QByteArray m_treeState;
-    QTranslator m_translator;
+    ViewerTranslations m_translations;
     QString m_language = QStringLiteral("en");
     int m_openRow = -1;
 };
