@@ -32,9 +32,46 @@ QSharedPointer<DeviceState> DeviceState::build(
         if (!state->buildNodeMap(map, error))
             return {};
     }
+    if (description.frameSource.isSet() && !state->checkFrameSource(description.frameSource, error))
+        return {};
     state->m_ownerThread = QThread::currentThread();
     state->m_dispatcher = new QObject;
     return state;
+}
+
+bool DeviceState::checkFrameSource(const FrameSourceDescription& frameSource, QString* error) const
+{
+    const NodeMapState* map = nullptr;
+    for (const auto& m : m_maps) {
+        if (m->name == frameSource.nodeMap)
+            map = m.get();
+    }
+    if (!map) {
+        if (error)
+            *error
+                = QStringLiteral("frame source, field \"nodeMap\": unknown node map \"%1\"").arg(frameSource.nodeMap);
+        return false;
+    }
+    for (auto it = frameSource.expressions.constBegin(); it != frameSource.expressions.constEnd(); ++it) {
+        const QString where = QStringLiteral("frame source, field \"%1\": ").arg(it.key());
+        QString parseError;
+        const Expression expression = Expression::parse(it.value(), &parseError);
+        if (!expression.isValid()) {
+            if (error)
+                *error = where + QStringLiteral("cannot parse expression \"%1\": %2").arg(it.value(), parseError);
+            return false;
+        }
+        for (const QString& name : expression.names()) {
+            const int index = map->byName.value(name, -1);
+            if (index < 0) {
+                if (error)
+                    *error
+                        = where + QStringLiteral("unknown feature \"%1\" in expression \"%2\"").arg(name, it.value());
+                return false;
+            }
+        }
+    }
+    return true;
 }
 
 DeviceState::FeatureExtras& DeviceState::extras(NodeMapState& m, int feature)

@@ -72,6 +72,8 @@ public:
     void setDeliveryThread(QThread* thread);
     bool changeOnDevice(const QString& fullName, const QVariant& value);
     qint64 clockMilliseconds() const;
+    //! Evaluates an expression over the features of the node map by name; unknown names read as 0.
+    ExpressionValue evaluateExpression(const QString& mapName, const Expression& expression);
 
     // ---- collection operations, by node map index
     QSharedPointer<ParameterCollection::IParameter> getParameter(int map, const QString& name);
@@ -202,6 +204,7 @@ private:
     DeviceState() = default;
 
     bool buildNodeMap(const NodeMapDescription& description, QString* error);
+    bool checkFrameSource(const FrameSourceDescription& frameSource, QString* error) const;
     bool bind(
         NodeMapState& m, int feature, const QString& field, const QString& text, BoundExpression* out, QString* error);
     FeatureExtras& extras(NodeMapState& m, int feature);

@@ -232,4 +232,19 @@ QVector<int> DeviceState::implementedEntries(NodeMapState& m, int feature)
     return entries;
 }
 
+ExpressionValue DeviceState::evaluateExpression(const QString& mapName, const Expression& expression)
+{
+    QMutexLocker lock(&m_mutex);
+    NodeMapState* map = nullptr;
+    for (const auto& m : m_maps) {
+        if (m->name == mapName)
+            map = m.get();
+    }
+    if (!map)
+        return ExpressionValue();
+    return expression.evaluate([this, map, &expression](int index) {
+        return featureExpressionValue(*map, map->byName.value(expression.names().at(index), -1));
+    });
+}
+
 } // namespace Simulation
