@@ -2,6 +2,7 @@
 // with --print it prints each node map as an indented tree of names and values instead, for terminals.
 
 #include "nodemapprinter.h"
+#include "viewercamera.h"
 #include "viewermainwindow.h"
 #include "viewertranslations.h"
 
@@ -35,6 +36,18 @@ bool wantsPrinting(int argc, char** argv)
     return false;
 }
 
+//! --help and --version print and exit, so they need no display either.
+bool wantsTextOnly(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        for (const char* option : { "--help", "-h", "-?", "--help-all", "--version", "-v", "-help", "-version" }) {
+            if (std::strcmp(argv[i], option) == 0)
+                return true;
+        }
+    }
+    return false;
+}
+
 //! The code given with --language, for the texts shown before the window: the help and the messages.
 QString languageArgument(int argc, char** argv)
 {
@@ -50,19 +63,25 @@ QString languageArgument(int argc, char** argv)
     return QString();
 }
 
+int fail(const QString& message)
+{
+    QTextStream(stderr) << "zarvex-viewer: " << message << '\n';
+    return 1;
+}
+
 int showWindow(const QCommandLineParser& parser, const QCommandLineOption& deviceOption,
     const QCommandLineOption& transportOption, const QCommandLineOption& aravisOption,
-    const QCommandLineOption& screenshotOption, const QCommandLineOption& languageOption)
+    const QCommandLineOption& screenshotOption, const QCommandLineOption& languageOption,
+    const QCommandLineOption& timeoutOption)
 {
     ViewerMainWindow window;
     for (const QString& file : parser.values(deviceOption)) {
         QString error;
-        if (!window.addDeviceFile(file, &error)) {
-            QTextStream(stderr) << "zarvex-viewer: " << error << '\n';
-            return 1;
-        }
+        if (!window.addDeviceFile(file, &error))
+            return fail(error);
     }
     const bool screenshot = parser.isSet(screenshotOption);
+    const bool aravis = parser.isSet(aravisOption);
     if (!screenshot)
         window.restoreSettings();
     if (parser.isSet(languageOption) && !window.setLanguage(parser.value(languageOption)))
@@ -71,27 +90,75 @@ int showWindow(const QCommandLineParser& parser, const QCommandLineOption& devic
     QListWidget* cameras = window.cameraList();
     if (parser.isSet(deviceOption))
         window.openCamera(cameras->count() - 1);
-    else if (parser.isSet(transportOption) || screenshot)
+    else if (parser.isSet(transportOption) || (screenshot && !aravis))
         window.openCamera(qMax(0, ViewerMainWindow::simulatedTransportTypes().indexOf(parser.value(transportOption))));
-    if (parser.isSet(aravisOption))
-        window.discoverAravisCameras();
     window.show();
-    if (screenshot)
-        window.selectFeature(QStringLiteral("@CameraDevice/ExposureTime"));
+    if (aravis) {
+        QObject::connect(
+            &window, &ViewerMainWindow::aravisCameraOpened, &window, [screenshot](bool opened, const QString& message) {
+                if (!opened) {
+                    QTextStream(stderr) << "zarvex-viewer: " << message << '\n';
+                    if (screenshot)
+                        QCoreApplication::exit(1);
+                }
+            });
+        window.openAravisCamera(parser.positionalArguments().value(0));
+    }
     if (!screenshot)
         return QApplication::exec();
 
-    // Let the window lay itself out and the tree fill before taking the picture.
-    QTimer::singleShot(300, &window, [&window, &parser, &screenshotOption] {
-        const QString file = parser.value(screenshotOption);
-        const QImage image = window.grab().toImage();
-        if (!image.save(file, "PNG")) {
-            QTextStream(stderr) << "zarvex-viewer: " << QCoreApplication::translate("main", "cannot write %1").arg(file)
-                                << '\n';
-            QCoreApplication::exit(1);
-            return;
+    // The picture is taken once the camera is open and, if it sends pictures,
+    // its first frame is painted; a camera that doesn't get there in time is an error.
+    bool timeOk = false;
+    const int seconds = parser.value(timeoutOption).toInt(&timeOk);
+    const int timeout = timeOk && seconds > 0 ? seconds : 30;
+    const QString file = parser.value(screenshotOption);
+    const auto shoot = [&window, file] {
+        // The tree and the panes paint the frame's neighbourhood first.
+        QTimer::singleShot(300, &window, [&window, file] {
+            const QImage image = window.grab().toImage();
+            if (!image.save(file, "PNG")) {
+                fail(QCoreApplication::translate("main", "cannot write %1").arg(file));
+                QCoreApplication::exit(1);
+                return;
+            }
+            QCoreApplication::exit(0);
+        });
+    };
+    bool shooting = false;
+    QObject::connect(&window, &ViewerMainWindow::framePainted, &window, [&shooting, shoot] {
+        if (!shooting) {
+            shooting = true;
+            shoot();
         }
-        QCoreApplication::exit(0);
+    });
+    const auto whenOpen = [&window, &shooting, shoot] {
+        window.selectFeature(QStringLiteral("@CameraDevice/ExposureTime"));
+        if (window.camera()->hasImages()) {
+            window.startAcquisition();
+        } else if (!shooting) {
+            shooting = true;
+            shoot();
+        }
+    };
+    if (aravis) {
+        QObject::connect(&window, &ViewerMainWindow::aravisCameraOpened, &window, [whenOpen](bool opened) {
+            if (opened)
+                whenOpen();
+        });
+    } else if (window.camera()) {
+        QTimer::singleShot(0, &window, whenOpen);
+    } else {
+        return fail(QCoreApplication::translate("main", "no camera could be opened"));
+    }
+    QTimer::singleShot(timeout * 1000, &window, [timeout, &window] {
+        fail(window.camera()
+                ? QCoreApplication::translate(
+                    "main", "the camera showed no picture within %1 s; no screenshot was taken")
+                      .arg(timeout)
+                : QCoreApplication::translate("main", "no camera was open within %1 s; no screenshot was taken")
+                      .arg(timeout));
+        QCoreApplication::exit(1);
     });
     return QApplication::exec();
 }
@@ -101,13 +168,14 @@ int showWindow(const QCommandLineParser& parser, const QCommandLineOption& devic
 int main(int argc, char** argv)
 {
     std::unique_ptr<QCoreApplication> application;
-    if (wantsPrinting(argc, argv))
+    if (wantsPrinting(argc, argv) || wantsTextOnly(argc, argv))
         application.reset(new QCoreApplication(argc, argv));
     else
         application.reset(new QApplication(argc, argv));
     QCoreApplication& app = *application;
     QCoreApplication::setOrganizationName(QStringLiteral("Zarvex"));
     QCoreApplication::setApplicationName(QStringLiteral("zarvex-viewer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZVC_VIEWER_VERSION));
     ViewerTranslations translations;
     const QString language = languageArgument(argc, argv);
     if (!language.isEmpty())
@@ -117,6 +185,7 @@ int main(int argc, char** argv)
     parser.setApplicationDescription(
         QCoreApplication::translate("main", "Shows the features of a simulated or a real camera."));
     parser.addHelpOption();
+    parser.addVersionOption();
     const QCommandLineOption transportOption(QStringLiteral("transport"),
         QCoreApplication::translate("main", "Transport-layer type: GEV, U3V, IIDC, CamEmu, ..."),
         QCoreApplication::translate("main", "type"), QStringLiteral("GEV"));
@@ -145,13 +214,18 @@ int main(int argc, char** argv)
     parser.addOption(aravisOption);
     parser.addOption(screenshotOption);
     parser.addOption(languageOption);
+    const QCommandLineOption timeoutOption(QStringLiteral("timeout"),
+        QCoreApplication::translate("main", "With --screenshot: seconds to wait for the camera and its first frame."),
+        QCoreApplication::translate("main", "seconds"), QStringLiteral("30"));
+    parser.addOption(timeoutOption);
     parser.addPositionalArgument(QStringLiteral("id"),
         QCoreApplication::translate("main", "Aravis id of the camera (with --aravis)."),
         QCoreApplication::translate("main", "[id]"));
     parser.process(app);
 
     if (!parser.isSet(printOption))
-        return showWindow(parser, deviceOption, transportOption, aravisOption, screenshotOption, languageOption);
+        return showWindow(
+            parser, deviceOption, transportOption, aravisOption, screenshotOption, languageOption, timeoutOption);
 
     QTextStream out(stdout);
     QTextStream err(stderr);

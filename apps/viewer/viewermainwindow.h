@@ -12,11 +12,13 @@
 #include <memory>
 
 class FeatureTreeWidget;
+class ImagePane;
 class QActionGroup;
 class QLabel;
 class QListWidget;
 class QMenu;
 class QProgressBar;
+class QTimer;
 class ViewerCamera;
 class Ui_ViewerMainWindow;
 
@@ -47,6 +49,12 @@ public:
     bool addDeviceFile(const QString& path, QString* error = nullptr);
     //! Looks for real cameras in the background; they join the list when found.
     void discoverAravisCameras();
+    /*!
+     * Looks for real cameras and opens the one with that Aravis id, or the
+     * first found when id is empty; aravisCameraOpened() tells how it went,
+     * and the status bar says so when there is none.
+     */
+    void openAravisCamera(const QString& id);
 
     //! Opens the camera in that row of the list; false if it cannot be opened.
     bool openCamera(int row);
@@ -68,6 +76,25 @@ public:
     ViewerCamera* camera() const;
     QString statusText() const;
 
+    ImagePane* imagePane() const;
+    //! Runs the camera's AcquisitionStart; false if it has none or refuses.
+    bool startAcquisition();
+    //! Runs the camera's AcquisitionStop; false if it has none or refuses.
+    bool stopAcquisition();
+    bool isAcquiring() const { return m_acquiring; }
+    //! The status bar's frame counts: received, frames per second, lost.
+    QString frameStatisticsText() const;
+    //! The status bar's position and value of the pixel under the cursor.
+    QString pixelText() const;
+
+signals:
+    //! A frame of the open camera was painted in the image pane.
+    void framePainted(quint64 frameId);
+    //! The search for real cameras ended with that many found.
+    void aravisDiscoveryFinished(int found);
+    //! openAravisCamera() ended: the camera is open, or message says why not.
+    void aravisCameraOpened(bool opened, const QString& message);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -88,6 +115,13 @@ private slots:
     void on_actionClearFaults_triggered();
     void on_actionChangeOnDevice_triggered();
     void on_actionAbout_triggered();
+    void on_actionSearch_triggered();
+    void on_actionStartAcquisition_triggered();
+    void on_actionStopAcquisition_triggered();
+    void on_actionZoomFit_triggered();
+    void on_actionZoomActual_triggered();
+    void on_actionZoomIn_triggered();
+    void on_actionZoomOut_triggered();
 
     void onLanguageTriggered(QAction* action);
     void onContextMenuRequested(QPoint const& point, QSharedPointer<QMenu> menu);
@@ -96,6 +130,8 @@ private slots:
     void onViewAllFavoritesStateChanged(bool on);
     void onFilterMatchesChanged(int total, int hidden);
     void onDisplayError(AsyncErrorQueue::ErrorSeverity severity, QString text, QString details, QWidget* parent);
+    void onPixelHovered(int x, int y, const QString& value);
+    void updateFrameStatistics();
 
 private:
     void addCameraEntry(const QString& text, CameraKind kind, const QString& source);
@@ -106,11 +142,17 @@ private:
     QSharedPointer<ParameterCollection::IParameter> cameraParameter(const QString& name) const;
     QString readAddress(const QString& name) const;
     bool writeAddress(const QString& name, const QString& address);
+    bool runCommand(const QString& name);
+    void updatePlaceholder();
 
     std::unique_ptr<Ui_ViewerMainWindow> ui;
     QActionGroup* m_languageGroup = nullptr;
     QLabel* m_matchesLabel = nullptr;
     QProgressBar* m_busyBar = nullptr;
+    QLabel* m_pixelLabel = nullptr;
+    QLabel* m_framesLabel = nullptr;
+    QTimer* m_statisticsTimer = nullptr;
+    bool m_acquiring = false;
     QPointer<FeatureTreeWidget> m_tree;
     QSharedPointer<ViewerCamera> m_camera;
     QByteArray m_treeState;

@@ -141,7 +141,7 @@
             <translation>Visibility:</translation>
         </message>
         <message>
-            <location line="+43" />
+            <location line="+49" />
             <location line="+3" />
             <source>%1 to %2</source>
             <translation>%1 to %2</translation>
@@ -153,10 +153,23 @@
         </message>
     </context>
     <context>
+        <name>PixelConverter</name>
+        <message>
+            <location filename="../pixelconverter.cpp" line="+110" />
+            <source>The pixel format %1 cannot be shown.</source>
+            <translation>The pixel format %1 cannot be shown.</translation>
+        </message>
+        <message>
+            <location line="+7" />
+            <source>The frame is incomplete.</source>
+            <translation>The frame is incomplete.</translation>
+        </message>
+    </context>
+    <context>
         <name>ViewerMainWindow</name>
         <message>
             <location filename="../viewermainwindow.ui" line="+6" />
-            <location filename="../viewermainwindow.cpp" line="+418" />
+            <location filename="../viewermainwindow.cpp" line="+636" />
             <location line="+74" />
             <source>Zarvex Viewer</source>
             <translation>Zarvex Viewer</translation>
@@ -187,7 +200,7 @@
             <translation>Guru</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+28" />
             <source>&amp;File</source>
             <translation>&amp;File</translation>
         </message>
@@ -197,7 +210,12 @@
             <translation>&amp;View</translation>
         </message>
         <message>
-            <location line="+7" />
+            <location line="+8" />
+            <source>&amp;Acquisition</source>
+            <translation>&amp;Acquisition</translation>
+        </message>
+        <message>
+            <location line="+10" />
             <source>&amp;Tools</source>
             <translation>&amp;Tools</translation>
         </message>
@@ -217,7 +235,67 @@
             <translation>&amp;Help</translation>
         </message>
         <message>
-            <location line="+11" />
+            <location line="+12" />
+            <source>Acquisition</source>
+            <translation>Acquisition</translation>
+        </message>
+        <message>
+            <location line="+12" />
+            <source>&amp;Search Features</source>
+            <translation>&amp;Search Features</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Start Acquisition</source>
+            <translation>&amp;Start Acquisition</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>S&amp;top Acquisition</source>
+            <translation>S&amp;top Acquisition</translation>
+        </message>
+        <message>
+            <location line="-4" />
+            <source>Start the acquisition (F7)</source>
+            <translation>Start the acquisition (F7)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>Stop the acquisition (F8)</source>
+            <translation>Stop the acquisition (F8)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>&amp;Fit to Window</source>
+            <translation>&amp;Fit to Window</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>Fit the picture to the pane (Ctrl+0)</source>
+            <translation>Fit the picture to the pane (Ctrl+0)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Actual Size (100 %)</source>
+            <translation>&amp;Actual Size (100 %)</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>One camera pixel per screen pixel (Ctrl+1)</source>
+            <translation>One camera pixel per screen pixel (Ctrl+1)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;In</source>
+            <translation>Zoom &amp;In</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;Out</source>
+            <translation>Zoom &amp;Out</translation>
+        </message>
+        <message>
+            <location line="+4" />
             <source>&amp;Open Device Description...</source>
             <translation>&amp;Open Device Description...</translation>
         </message>
@@ -307,7 +385,7 @@
             <translation>&amp;About</translation>
         </message>
         <message>
-            <location filename="../viewermainwindow.cpp" line="-340" />
+            <location filename="../viewermainwindow.cpp" line="-534" />
             <source>Looking for cameras...</source>
             <translation>Looking for cameras...</translation>
         </message>
@@ -320,7 +398,27 @@
             </translation>
         </message>
         <message>
-            <location line="+25" />
+            <location line="+29" />
+            <source>No Aravis camera was found.</source>
+            <translation>No Aravis camera was found.</translation>
+        </message>
+        <message>
+            <location line="+0" />
+            <source>The Aravis camera %1 was not found.</source>
+            <translation>The Aravis camera %1 was not found.</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>The Aravis camera %1 cannot be opened.</source>
+            <translation>The Aravis camera %1 cannot be opened.</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>This viewer was built without Aravis.</source>
+            <translation>This viewer was built without Aravis.</translation>
+        </message>
+        <message>
+            <location line="+21" />
             <source>Opening the camera...</source>
             <translation>Opening the camera...</translation>
         </message>
@@ -335,12 +433,52 @@
             <translation>The camera is gone: %1</translation>
         </message>
         <message>
-            <location line="+32" />
+            <location line="+47" />
             <source>Opened %1</source>
             <translation>Opened %1</translation>
         </message>
         <message>
-            <location line="+94" />
+            <location line="+68" />
+            <source>The camera has no %1</source>
+            <translation>The camera has no %1</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>%1 could not be run.</source>
+            <translation>%1 could not be run.</translation>
+        </message>
+        <message>
+            <location line="+40" />
+            <source>%1 frames, %2 fps, %3 lost</source>
+            <translation>%1 frames, %2 fps, %3 lost</translation>
+        </message>
+        <message>
+            <location line="+11" />
+            <source>x %1, y %2: %3</source>
+            <translation>x %1, y %2: %3</translation>
+        </message>
+        <message>
+            <location line="+6" />
+            <source>No camera is open.</source>
+            <translation>No camera is open.</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>This camera sends no pictures to the viewer.</source>
+            <translation>This camera sends no pictures to the viewer.</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Waiting for the first frame...</source>
+            <translation>Waiting for the first frame...</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Press Start Acquisition (F7) to see the picture.</source>
+            <translation>Press Start Acquisition (F7) to see the picture.</translation>
+        </message>
+        <message>
+            <location line="+97" />
             <location line="+6" />
             <source>Open Device Description</source>
             <translation>Open Device Description</translation>
@@ -467,7 +605,7 @@
             <translation>Zarvex Viewer shows and edits the features of a camera with the ZarvexViewerComponents library.</translation>
         </message>
         <message>
-            <location line="+42" />
+            <location line="+44" />
             <source>Simulated camera (%1)</source>
             <translation>Simulated camera (%1)</translation>
         </message>
@@ -480,17 +618,32 @@
     <context>
         <name>main</name>
         <message>
-            <location filename="../main.cpp" line="+89" />
+            <location filename="../main.cpp" line="+121" />
             <source>cannot write %1</source>
             <translation>cannot write %1</translation>
         </message>
         <message>
-            <location line="+29" />
+            <location line="+31" />
+            <source>no camera could be opened</source>
+            <translation>no camera could be opened</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>the camera showed no picture within %1 s; no screenshot was taken</source>
+            <translation>the camera showed no picture within %1 s; no screenshot was taken</translation>
+        </message>
+        <message>
+            <location line="+3" />
+            <source>no camera was open within %1 s; no screenshot was taken</source>
+            <translation>no camera was open within %1 s; no screenshot was taken</translation>
+        </message>
+        <message>
+            <location line="+27" />
             <source>Shows the features of a simulated or a real camera.</source>
             <translation>Shows the features of a simulated or a real camera.</translation>
         </message>
         <message>
-            <location line="+3" />
+            <location line="+4" />
             <source>Transport-layer type: GEV, U3V, IIDC, CamEmu, ...</source>
             <translation>Transport-layer type: GEV, U3V, IIDC, CamEmu, ...</translation>
         </message>
@@ -547,6 +700,16 @@
         </message>
         <message>
             <location line="+11" />
+            <source>With --screenshot: seconds to wait for the camera and its first frame.</source>
+            <translation>With --screenshot: seconds to wait for the camera and its first frame.</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>seconds</source>
+            <translation>seconds</translation>
+        </message>
+        <message>
+            <location line="+3" />
             <source>Aravis id of the camera (with --aravis).</source>
             <translation>Aravis id of the camera (with --aravis).</translation>
         </message>
@@ -556,7 +719,7 @@
             <translation>[id]</translation>
         </message>
         <message>
-            <location line="+18" />
+            <location line="+19" />
             <source>Found %1 (%2, %3)</source>
             <translation>Found %1 (%2, %3)</translation>
         </message>

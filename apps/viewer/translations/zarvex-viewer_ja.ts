@@ -141,7 +141,7 @@
             <translation>可視性:</translation>
         </message>
         <message>
-            <location line="+43" />
+            <location line="+49" />
             <location line="+3" />
             <source>%1 to %2</source>
             <translation>%1 ～ %2</translation>
@@ -153,10 +153,23 @@
         </message>
     </context>
     <context>
+        <name>PixelConverter</name>
+        <message>
+            <location filename="../pixelconverter.cpp" line="+110" />
+            <source>The pixel format %1 cannot be shown.</source>
+            <translation>ピクセル形式 %1 は表示できません。</translation>
+        </message>
+        <message>
+            <location line="+7" />
+            <source>The frame is incomplete.</source>
+            <translation>フレームが不完全です。</translation>
+        </message>
+    </context>
+    <context>
         <name>ViewerMainWindow</name>
         <message>
             <location filename="../viewermainwindow.ui" line="+6" />
-            <location filename="../viewermainwindow.cpp" line="+418" />
+            <location filename="../viewermainwindow.cpp" line="+636" />
             <location line="+74" />
             <source>Zarvex Viewer</source>
             <translation>Zarvex ビューアー</translation>
@@ -187,7 +200,7 @@
             <translation>エキスパート</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+28" />
             <source>&amp;File</source>
             <translation>ファイル(&amp;F)</translation>
         </message>
@@ -197,7 +210,12 @@
             <translation>表示(&amp;V)</translation>
         </message>
         <message>
-            <location line="+7" />
+            <location line="+8" />
+            <source>&amp;Acquisition</source>
+            <translation>取り込み(&amp;A)</translation>
+        </message>
+        <message>
+            <location line="+10" />
             <source>&amp;Tools</source>
             <translation>ツール(&amp;T)</translation>
         </message>
@@ -217,7 +235,67 @@
             <translation>ヘルプ(&amp;H)</translation>
         </message>
         <message>
-            <location line="+11" />
+            <location line="+12" />
+            <source>Acquisition</source>
+            <translation>取り込み</translation>
+        </message>
+        <message>
+            <location line="+12" />
+            <source>&amp;Search Features</source>
+            <translation>機能を検索(&amp;S)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Start Acquisition</source>
+            <translation>取り込み開始(&amp;S)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>S&amp;top Acquisition</source>
+            <translation>取り込み停止(&amp;T)</translation>
+        </message>
+        <message>
+            <location line="-4" />
+            <source>Start the acquisition (F7)</source>
+            <translation>取り込みを開始 (F7)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>Stop the acquisition (F8)</source>
+            <translation>取り込みを停止 (F8)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>&amp;Fit to Window</source>
+            <translation>ウィンドウに合わせる(&amp;F)</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>Fit the picture to the pane (Ctrl+0)</source>
+            <translation>画像をペインに合わせる (Ctrl+0)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Actual Size (100 %)</source>
+            <translation>実際のサイズ (100 %)(&amp;A)</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>One camera pixel per screen pixel (Ctrl+1)</source>
+            <translation>カメラの 1 画素を画面の 1 画素で表示 (Ctrl+1)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;In</source>
+            <translation>拡大(&amp;I)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;Out</source>
+            <translation>縮小(&amp;O)</translation>
+        </message>
+        <message>
+            <location line="+4" />
             <source>&amp;Open Device Description...</source>
             <translation>デバイス記述を開く(&amp;O)...</translation>
         </message>
@@ -307,7 +385,7 @@
             <translation>バージョン情報(&amp;A)</translation>
         </message>
         <message>
-            <location filename="../viewermainwindow.cpp" line="-340" />
+            <location filename="../viewermainwindow.cpp" line="-534" />
             <source>Looking for cameras...</source>
             <translation>カメラを探しています...</translation>
         </message>
@@ -319,7 +397,27 @@
             </translation>
         </message>
         <message>
-            <location line="+25" />
+            <location line="+29" />
+            <source>No Aravis camera was found.</source>
+            <translation>Aravis カメラが見つかりませんでした。</translation>
+        </message>
+        <message>
+            <location line="+0" />
+            <source>The Aravis camera %1 was not found.</source>
+            <translation>Aravis カメラ %1 が見つかりませんでした。</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>The Aravis camera %1 cannot be opened.</source>
+            <translation>Aravis カメラ %1 を開けません。</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>This viewer was built without Aravis.</source>
+            <translation>このビューアーは Aravis なしでビルドされています。</translation>
+        </message>
+        <message>
+            <location line="+21" />
             <source>Opening the camera...</source>
             <translation>カメラを開いています...</translation>
         </message>
@@ -334,12 +432,52 @@
             <translation>カメラが失われました: %1</translation>
         </message>
         <message>
-            <location line="+32" />
+            <location line="+47" />
             <source>Opened %1</source>
             <translation>%1 を開きました</translation>
         </message>
         <message>
-            <location line="+94" />
+            <location line="+68" />
+            <source>The camera has no %1</source>
+            <translation>カメラに %1 がありません</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>%1 could not be run.</source>
+            <translation>%1 を実行できませんでした。</translation>
+        </message>
+        <message>
+            <location line="+40" />
+            <source>%1 frames, %2 fps, %3 lost</source>
+            <translation>%1 フレーム、%2 fps、%3 欠落</translation>
+        </message>
+        <message>
+            <location line="+11" />
+            <source>x %1, y %2: %3</source>
+            <translation>x %1、y %2: %3</translation>
+        </message>
+        <message>
+            <location line="+6" />
+            <source>No camera is open.</source>
+            <translation>カメラが開かれていません。</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>This camera sends no pictures to the viewer.</source>
+            <translation>このカメラはビューアーに画像を送りません。</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Waiting for the first frame...</source>
+            <translation>最初のフレームを待っています...</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Press Start Acquisition (F7) to see the picture.</source>
+            <translation>画像を見るには「取り込み開始」(F7) を押してください。</translation>
+        </message>
+        <message>
+            <location line="+97" />
             <location line="+6" />
             <source>Open Device Description</source>
             <translation>デバイス記述を開く</translation>
@@ -465,7 +603,7 @@
             <translation>Zarvex ビューアーは ZarvexViewerComponents ライブラリを使ってカメラの機能を表示・編集します。</translation>
         </message>
         <message>
-            <location line="+42" />
+            <location line="+44" />
             <source>Simulated camera (%1)</source>
             <translation>シミュレーションカメラ (%1)</translation>
         </message>
@@ -478,17 +616,32 @@
     <context>
         <name>main</name>
         <message>
-            <location filename="../main.cpp" line="+89" />
+            <location filename="../main.cpp" line="+121" />
             <source>cannot write %1</source>
             <translation>%1 を書き込めません</translation>
         </message>
         <message>
-            <location line="+29" />
+            <location line="+31" />
+            <source>no camera could be opened</source>
+            <translation>カメラを開けませんでした</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>the camera showed no picture within %1 s; no screenshot was taken</source>
+            <translation>カメラは %1 秒以内に画像を表示しませんでした。スクリーンショットは撮影されていません</translation>
+        </message>
+        <message>
+            <location line="+3" />
+            <source>no camera was open within %1 s; no screenshot was taken</source>
+            <translation>%1 秒以内にカメラが開かれませんでした。スクリーンショットは撮影されていません</translation>
+        </message>
+        <message>
+            <location line="+27" />
             <source>Shows the features of a simulated or a real camera.</source>
             <translation>シミュレーションカメラまたは実際のカメラの機能を表示します。</translation>
         </message>
         <message>
-            <location line="+3" />
+            <location line="+4" />
             <source>Transport-layer type: GEV, U3V, IIDC, CamEmu, ...</source>
             <translation>トランスポート層の種類: GEV、U3V、IIDC、CamEmu など</translation>
         </message>
@@ -545,6 +698,16 @@
         </message>
         <message>
             <location line="+11" />
+            <source>With --screenshot: seconds to wait for the camera and its first frame.</source>
+            <translation>--screenshot と共に: カメラと最初のフレームを待つ秒数。</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>seconds</source>
+            <translation>秒</translation>
+        </message>
+        <message>
+            <location line="+3" />
             <source>Aravis id of the camera (with --aravis).</source>
             <translation>カメラの Aravis ID (--aravis と共に)。</translation>
         </message>
@@ -554,7 +717,7 @@
             <translation>[id]</translation>
         </message>
         <message>
-            <location line="+18" />
+            <location line="+19" />
             <source>Found %1 (%2, %3)</source>
             <translation>%1 を検出 (%2、%3)</translation>
         </message>

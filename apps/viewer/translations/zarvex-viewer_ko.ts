@@ -141,7 +141,7 @@
             <translation>표시 수준:</translation>
         </message>
         <message>
-            <location line="+43" />
+            <location line="+49" />
             <location line="+3" />
             <source>%1 to %2</source>
             <translation>%1 ~ %2</translation>
@@ -153,10 +153,23 @@
         </message>
     </context>
     <context>
+        <name>PixelConverter</name>
+        <message>
+            <location filename="../pixelconverter.cpp" line="+110" />
+            <source>The pixel format %1 cannot be shown.</source>
+            <translation>픽셀 형식 %1은(는) 표시할 수 없습니다.</translation>
+        </message>
+        <message>
+            <location line="+7" />
+            <source>The frame is incomplete.</source>
+            <translation>프레임이 불완전합니다.</translation>
+        </message>
+    </context>
+    <context>
         <name>ViewerMainWindow</name>
         <message>
             <location filename="../viewermainwindow.ui" line="+6" />
-            <location filename="../viewermainwindow.cpp" line="+418" />
+            <location filename="../viewermainwindow.cpp" line="+636" />
             <location line="+74" />
             <source>Zarvex Viewer</source>
             <translation>Zarvex 뷰어</translation>
@@ -187,7 +200,7 @@
             <translation>구루</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+28" />
             <source>&amp;File</source>
             <translation>파일(&amp;F)</translation>
         </message>
@@ -197,7 +210,12 @@
             <translation>보기(&amp;V)</translation>
         </message>
         <message>
-            <location line="+7" />
+            <location line="+8" />
+            <source>&amp;Acquisition</source>
+            <translation>수집(&amp;A)</translation>
+        </message>
+        <message>
+            <location line="+10" />
             <source>&amp;Tools</source>
             <translation>도구(&amp;T)</translation>
         </message>
@@ -217,7 +235,67 @@
             <translation>도움말(&amp;H)</translation>
         </message>
         <message>
-            <location line="+11" />
+            <location line="+12" />
+            <source>Acquisition</source>
+            <translation>수집</translation>
+        </message>
+        <message>
+            <location line="+12" />
+            <source>&amp;Search Features</source>
+            <translation>기능 검색(&amp;S)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Start Acquisition</source>
+            <translation>수집 시작(&amp;S)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>S&amp;top Acquisition</source>
+            <translation>수집 중지(&amp;T)</translation>
+        </message>
+        <message>
+            <location line="-4" />
+            <source>Start the acquisition (F7)</source>
+            <translation>수집 시작 (F7)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>Stop the acquisition (F8)</source>
+            <translation>수집 중지 (F8)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>&amp;Fit to Window</source>
+            <translation>창에 맞추기(&amp;F)</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>Fit the picture to the pane (Ctrl+0)</source>
+            <translation>그림을 창에 맞춤 (Ctrl+0)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Actual Size (100 %)</source>
+            <translation>실제 크기 (100 %)(&amp;A)</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>One camera pixel per screen pixel (Ctrl+1)</source>
+            <translation>카메라 픽셀 하나를 화면 픽셀 하나로 (Ctrl+1)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;In</source>
+            <translation>확대(&amp;I)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;Out</source>
+            <translation>축소(&amp;O)</translation>
+        </message>
+        <message>
+            <location line="+4" />
             <source>&amp;Open Device Description...</source>
             <translation>장치 설명 열기(&amp;O)...</translation>
         </message>
@@ -307,7 +385,7 @@
             <translation>정보(&amp;A)</translation>
         </message>
         <message>
-            <location filename="../viewermainwindow.cpp" line="-340" />
+            <location filename="../viewermainwindow.cpp" line="-534" />
             <source>Looking for cameras...</source>
             <translation>카메라를 찾는 중...</translation>
         </message>
@@ -319,7 +397,27 @@
             </translation>
         </message>
         <message>
-            <location line="+25" />
+            <location line="+29" />
+            <source>No Aravis camera was found.</source>
+            <translation>Aravis 카메라를 찾지 못했습니다.</translation>
+        </message>
+        <message>
+            <location line="+0" />
+            <source>The Aravis camera %1 was not found.</source>
+            <translation>Aravis 카메라 %1을(를) 찾지 못했습니다.</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>The Aravis camera %1 cannot be opened.</source>
+            <translation>Aravis 카메라 %1을(를) 열 수 없습니다.</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>This viewer was built without Aravis.</source>
+            <translation>이 뷰어는 Aravis 없이 빌드되었습니다.</translation>
+        </message>
+        <message>
+            <location line="+21" />
             <source>Opening the camera...</source>
             <translation>카메라를 여는 중...</translation>
         </message>
@@ -334,12 +432,52 @@
             <translation>카메라 연결이 끊어졌습니다: %1</translation>
         </message>
         <message>
-            <location line="+32" />
+            <location line="+47" />
             <source>Opened %1</source>
             <translation>%1을(를) 열었습니다</translation>
         </message>
         <message>
-            <location line="+94" />
+            <location line="+68" />
+            <source>The camera has no %1</source>
+            <translation>카메라에 %1이(가) 없습니다</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>%1 could not be run.</source>
+            <translation>%1을(를) 실행할 수 없습니다.</translation>
+        </message>
+        <message>
+            <location line="+40" />
+            <source>%1 frames, %2 fps, %3 lost</source>
+            <translation>%1 프레임, %2 fps, %3 손실</translation>
+        </message>
+        <message>
+            <location line="+11" />
+            <source>x %1, y %2: %3</source>
+            <translation>X %1, Y %2 위치의 값: %3</translation>
+        </message>
+        <message>
+            <location line="+6" />
+            <source>No camera is open.</source>
+            <translation>열린 카메라가 없습니다.</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>This camera sends no pictures to the viewer.</source>
+            <translation>이 카메라는 뷰어에 그림을 보내지 않습니다.</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Waiting for the first frame...</source>
+            <translation>첫 프레임을 기다리는 중...</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Press Start Acquisition (F7) to see the picture.</source>
+            <translation>그림을 보려면 수집 시작(F7)을 누르십시오.</translation>
+        </message>
+        <message>
+            <location line="+97" />
             <location line="+6" />
             <source>Open Device Description</source>
             <translation>장치 설명 열기</translation>
@@ -465,7 +603,7 @@
             <translation>Zarvex 뷰어는 ZarvexViewerComponents 라이브러리로 카메라의 기능을 표시하고 편집합니다.</translation>
         </message>
         <message>
-            <location line="+42" />
+            <location line="+44" />
             <source>Simulated camera (%1)</source>
             <translation>시뮬레이션 카메라 (%1)</translation>
         </message>
@@ -478,17 +616,32 @@
     <context>
         <name>main</name>
         <message>
-            <location filename="../main.cpp" line="+89" />
+            <location filename="../main.cpp" line="+121" />
             <source>cannot write %1</source>
             <translation>%1을(를) 쓸 수 없습니다</translation>
         </message>
         <message>
-            <location line="+29" />
+            <location line="+31" />
+            <source>no camera could be opened</source>
+            <translation>카메라를 열 수 없습니다</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>the camera showed no picture within %1 s; no screenshot was taken</source>
+            <translation>카메라가 %1초 안에 그림을 표시하지 않았습니다. 스크린샷을 찍지 않았습니다</translation>
+        </message>
+        <message>
+            <location line="+3" />
+            <source>no camera was open within %1 s; no screenshot was taken</source>
+            <translation>%1초 안에 카메라가 열리지 않았습니다. 스크린샷을 찍지 않았습니다</translation>
+        </message>
+        <message>
+            <location line="+27" />
             <source>Shows the features of a simulated or a real camera.</source>
             <translation>시뮬레이션 카메라 또는 실제 카메라의 기능을 표시합니다.</translation>
         </message>
         <message>
-            <location line="+3" />
+            <location line="+4" />
             <source>Transport-layer type: GEV, U3V, IIDC, CamEmu, ...</source>
             <translation>전송 계층 유형: GEV, U3V, IIDC, CamEmu, ...</translation>
         </message>
@@ -545,6 +698,16 @@
         </message>
         <message>
             <location line="+11" />
+            <source>With --screenshot: seconds to wait for the camera and its first frame.</source>
+            <translation>--screenshot과 함께: 카메라와 첫 프레임을 기다릴 초.</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>seconds</source>
+            <translation>초</translation>
+        </message>
+        <message>
+            <location line="+3" />
             <source>Aravis id of the camera (with --aravis).</source>
             <translation>카메라의 Aravis ID (--aravis와 함께).</translation>
         </message>
@@ -554,7 +717,7 @@
             <translation>[id]</translation>
         </message>
         <message>
-            <location line="+18" />
+            <location line="+19" />
             <source>Found %1 (%2, %3)</source>
             <translation>%1 발견 (%2, %3)</translation>
         </message>

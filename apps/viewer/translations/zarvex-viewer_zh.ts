@@ -141,7 +141,7 @@
             <translation>可见性:</translation>
         </message>
         <message>
-            <location line="+43" />
+            <location line="+49" />
             <location line="+3" />
             <source>%1 to %2</source>
             <translation>%1 至 %2</translation>
@@ -153,10 +153,23 @@
         </message>
     </context>
     <context>
+        <name>PixelConverter</name>
+        <message>
+            <location filename="../pixelconverter.cpp" line="+110" />
+            <source>The pixel format %1 cannot be shown.</source>
+            <translation>无法显示像素格式 %1。</translation>
+        </message>
+        <message>
+            <location line="+7" />
+            <source>The frame is incomplete.</source>
+            <translation>帧不完整。</translation>
+        </message>
+    </context>
+    <context>
         <name>ViewerMainWindow</name>
         <message>
             <location filename="../viewermainwindow.ui" line="+6" />
-            <location filename="../viewermainwindow.cpp" line="+418" />
+            <location filename="../viewermainwindow.cpp" line="+636" />
             <location line="+74" />
             <source>Zarvex Viewer</source>
             <translation>Zarvex 查看器</translation>
@@ -187,7 +200,7 @@
             <translation>大师</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+28" />
             <source>&amp;File</source>
             <translation>文件(&amp;F)</translation>
         </message>
@@ -197,7 +210,12 @@
             <translation>视图(&amp;V)</translation>
         </message>
         <message>
-            <location line="+7" />
+            <location line="+8" />
+            <source>&amp;Acquisition</source>
+            <translation>采集(&amp;A)</translation>
+        </message>
+        <message>
+            <location line="+10" />
             <source>&amp;Tools</source>
             <translation>工具(&amp;T)</translation>
         </message>
@@ -217,7 +235,67 @@
             <translation>帮助(&amp;H)</translation>
         </message>
         <message>
-            <location line="+11" />
+            <location line="+12" />
+            <source>Acquisition</source>
+            <translation>采集</translation>
+        </message>
+        <message>
+            <location line="+12" />
+            <source>&amp;Search Features</source>
+            <translation>搜索功能(&amp;S)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Start Acquisition</source>
+            <translation>开始采集(&amp;S)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>S&amp;top Acquisition</source>
+            <translation>停止采集(&amp;T)</translation>
+        </message>
+        <message>
+            <location line="-4" />
+            <source>Start the acquisition (F7)</source>
+            <translation>开始采集 (F7)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>Stop the acquisition (F8)</source>
+            <translation>停止采集 (F8)</translation>
+        </message>
+        <message>
+            <location line="+5" />
+            <source>&amp;Fit to Window</source>
+            <translation>适合窗口(&amp;F)</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>Fit the picture to the pane (Ctrl+0)</source>
+            <translation>使图像适合窗格 (Ctrl+0)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>&amp;Actual Size (100 %)</source>
+            <translation>实际大小 (100 %)(&amp;A)</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>One camera pixel per screen pixel (Ctrl+1)</source>
+            <translation>相机的一个像素对应屏幕的一个像素 (Ctrl+1)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;In</source>
+            <translation>放大(&amp;I)</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>Zoom &amp;Out</source>
+            <translation>缩小(&amp;O)</translation>
+        </message>
+        <message>
+            <location line="+4" />
             <source>&amp;Open Device Description...</source>
             <translation>打开设备描述(&amp;O)...</translation>
         </message>
@@ -307,7 +385,7 @@
             <translation>关于(&amp;A)</translation>
         </message>
         <message>
-            <location filename="../viewermainwindow.cpp" line="-340" />
+            <location filename="../viewermainwindow.cpp" line="-534" />
             <source>Looking for cameras...</source>
             <translation>正在查找相机...</translation>
         </message>
@@ -319,7 +397,27 @@
             </translation>
         </message>
         <message>
-            <location line="+25" />
+            <location line="+29" />
+            <source>No Aravis camera was found.</source>
+            <translation>未找到 Aravis 相机。</translation>
+        </message>
+        <message>
+            <location line="+0" />
+            <source>The Aravis camera %1 was not found.</source>
+            <translation>未找到 Aravis 相机 %1。</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>The Aravis camera %1 cannot be opened.</source>
+            <translation>无法打开 Aravis 相机 %1。</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>This viewer was built without Aravis.</source>
+            <translation>此查看器构建时未包含 Aravis。</translation>
+        </message>
+        <message>
+            <location line="+21" />
             <source>Opening the camera...</source>
             <translation>正在打开相机...</translation>
         </message>
@@ -334,12 +432,52 @@
             <translation>相机已断开: %1</translation>
         </message>
         <message>
-            <location line="+32" />
+            <location line="+47" />
             <source>Opened %1</source>
             <translation>已打开 %1</translation>
         </message>
         <message>
-            <location line="+94" />
+            <location line="+68" />
+            <source>The camera has no %1</source>
+            <translation>相机没有 %1</translation>
+        </message>
+        <message>
+            <location line="+9" />
+            <source>%1 could not be run.</source>
+            <translation>无法执行 %1。</translation>
+        </message>
+        <message>
+            <location line="+40" />
+            <source>%1 frames, %2 fps, %3 lost</source>
+            <translation>%1 帧，%2 fps，丢失 %3</translation>
+        </message>
+        <message>
+            <location line="+11" />
+            <source>x %1, y %2: %3</source>
+            <translation>x %1，y %2: %3</translation>
+        </message>
+        <message>
+            <location line="+6" />
+            <source>No camera is open.</source>
+            <translation>没有打开的相机。</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>This camera sends no pictures to the viewer.</source>
+            <translation>此相机不向查看器发送图像。</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Waiting for the first frame...</source>
+            <translation>正在等待第一帧...</translation>
+        </message>
+        <message>
+            <location line="+2" />
+            <source>Press Start Acquisition (F7) to see the picture.</source>
+            <translation>按“开始采集”(F7) 查看图像。</translation>
+        </message>
+        <message>
+            <location line="+97" />
             <location line="+6" />
             <source>Open Device Description</source>
             <translation>打开设备描述</translation>
@@ -465,7 +603,7 @@
             <translation>Zarvex 查看器使用 ZarvexViewerComponents 库显示和编辑相机的功能。</translation>
         </message>
         <message>
-            <location line="+42" />
+            <location line="+44" />
             <source>Simulated camera (%1)</source>
             <translation>模拟相机 (%1)</translation>
         </message>
@@ -478,17 +616,32 @@
     <context>
         <name>main</name>
         <message>
-            <location filename="../main.cpp" line="+89" />
+            <location filename="../main.cpp" line="+121" />
             <source>cannot write %1</source>
             <translation>无法写入 %1</translation>
         </message>
         <message>
-            <location line="+29" />
+            <location line="+31" />
+            <source>no camera could be opened</source>
+            <translation>无法打开任何相机</translation>
+        </message>
+        <message>
+            <location line="+4" />
+            <source>the camera showed no picture within %1 s; no screenshot was taken</source>
+            <translation>相机在 %1 秒内未显示图像；未截图</translation>
+        </message>
+        <message>
+            <location line="+3" />
+            <source>no camera was open within %1 s; no screenshot was taken</source>
+            <translation>%1 秒内未打开相机；未截图</translation>
+        </message>
+        <message>
+            <location line="+27" />
             <source>Shows the features of a simulated or a real camera.</source>
             <translation>显示模拟相机或真实相机的功能。</translation>
         </message>
         <message>
-            <location line="+3" />
+            <location line="+4" />
             <source>Transport-layer type: GEV, U3V, IIDC, CamEmu, ...</source>
             <translation>传输层类型: GEV、U3V、IIDC、CamEmu 等</translation>
         </message>
@@ -545,6 +698,16 @@
         </message>
         <message>
             <location line="+11" />
+            <source>With --screenshot: seconds to wait for the camera and its first frame.</source>
+            <translation>与 --screenshot 一起使用: 等待相机及其第一帧的秒数。</translation>
+        </message>
+        <message>
+            <location line="+1" />
+            <source>seconds</source>
+            <translation>秒</translation>
+        </message>
+        <message>
+            <location line="+3" />
             <source>Aravis id of the camera (with --aravis).</source>
             <translation>相机的 Aravis ID (与 --aravis 一起使用)。</translation>
         </message>
@@ -554,7 +717,7 @@
             <translation>[id]</translation>
         </message>
         <message>
-            <location line="+18" />
+            <location line="+19" />
             <source>Found %1 (%2, %3)</source>
             <translation>找到 %1 (%2, %3)</translation>
         </message>
