@@ -115,7 +115,7 @@ int showWindow(const QCommandLineParser& parser, const QCommandLineOption& devic
     const QString file = parser.value(screenshotOption);
     const auto shoot = [&window, file] {
         // The tree and the panes paint the frame's neighbourhood first.
-        QTimer::singleShot(300, &window, [&window, file] {
+        QTimer::singleShot(700, &window, [&window, file] {
             const QImage image = window.grab().toImage();
             if (!image.save(file, "PNG")) {
                 fail(QCoreApplication::translate("main", "cannot write %1").arg(file));
