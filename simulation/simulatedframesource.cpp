@@ -222,13 +222,13 @@ SimulatedFrameSource::Settings SimulatedFrameSource::settings() const
     ExpressionValue v = value("acquiring", &present);
     s.acquiring = present && v.toBool() && m_device->isPlugged();
     v = value("width", &present);
-    s.width = present ? int(qBound<qint64>(0, v.toInteger(), 1 << 20)) : 640;
+    s.width = present ? int(qBound(qint64(0), v.toInteger(), qint64(1) << 20)) : 640;
     v = value("height", &present);
-    s.height = present ? int(qBound<qint64>(0, v.toInteger(), 1 << 20)) : 480;
+    s.height = present ? int(qBound(qint64(0), v.toInteger(), qint64(1) << 20)) : 480;
     v = value("offsetX", &present);
-    s.offsetX = present ? int(qBound<qint64>(0, v.toInteger(), 1 << 20)) : 0;
+    s.offsetX = present ? int(qBound(qint64(0), v.toInteger(), qint64(1) << 20)) : 0;
     v = value("offsetY", &present);
-    s.offsetY = present ? int(qBound<qint64>(0, v.toInteger(), 1 << 20)) : 0;
+    s.offsetY = present ? int(qBound(qint64(0), v.toInteger(), qint64(1) << 20)) : 0;
     v = value("pixelFormat", &present);
     s.pixelFormat = present ? v.toText() : QStringLiteral("Mono8");
     v = value("reverseX", &present);
@@ -242,9 +242,9 @@ SimulatedFrameSource::Settings SimulatedFrameSource::settings() const
     v = value("brightness", &present);
     s.brightness = present ? v.toDouble() : 1.0;
     v = value("sensorWidth", &present);
-    s.sensorWidth = present ? int(qBound<qint64>(0, v.toInteger(), 1 << 20)) : 0;
+    s.sensorWidth = present ? int(qBound(qint64(0), v.toInteger(), qint64(1) << 20)) : 0;
     v = value("sensorHeight", &present);
-    s.sensorHeight = present ? int(qBound<qint64>(0, v.toInteger(), 1 << 20)) : 0;
+    s.sensorHeight = present ? int(qBound(qint64(0), v.toInteger(), qint64(1) << 20)) : 0;
     return s;
 }
 

@@ -58,8 +58,8 @@ bool ViewerTranslations::install(const QString& code)
     }
     remove();
     // Loaded again into the members: a QTranslator cannot be moved.
-    m_library.load(libraryCatalogue(code));
-    m_viewer.load(viewerCatalogue(code));
+    if (!m_library.load(libraryCatalogue(code)) || !m_viewer.load(viewerCatalogue(code)))
+        return false;
     QCoreApplication::installTranslator(&m_library);
     QCoreApplication::installTranslator(&m_viewer);
     m_installed = true;
