@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegion>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -14,6 +15,8 @@ namespace {
 constexpr double kMinimumZoom = 1.0 / 32.0;
 constexpr double kMaximumZoom = 64.0;
 constexpr double kWheelStep = 1.25;
+//! Grey pictures up to this size are painted from an RGB32 copy.
+constexpr qint64 kConvertedGreyPixels = 1024 * 1024;
 
 QPointF wheelPosition(const QWheelEvent* event)
 {
@@ -120,6 +123,12 @@ void ImagePane::convertPending()
     m_pending = false;
     m_error.clear();
     m_image = PixelConverter::toImage(m_data, m_width, m_height, m_format, &m_error);
+    // Qt scales RGB32 pictures on its fast path: a small grey picture
+    // converted once costs less than one scaled line by line; a large one is
+    // painted as it is, without the copy.
+    const bool grey = m_image.format() == QImage::Format_Grayscale8 || m_image.format() == QImage::Format_Grayscale16;
+    if (grey && qint64(m_image.width()) * m_image.height() <= kConvertedGreyPixels)
+        m_image = m_image.convertToFormat(QImage::Format_RGB32);
 }
 
 double ImagePane::zoom() const
@@ -157,14 +166,18 @@ void ImagePane::paintEvent(QPaintEvent*)
     const bool fresh = m_pending;
     convertPending();
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Dark));
     if (m_image.isNull()) {
+        painter.fillRect(rect(), palette().color(QPalette::Dark));
         painter.setPen(palette().color(QPalette::BrightText));
         const QString text = m_error.isEmpty() ? m_placeholder : m_error;
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, text);
         return;
     }
     const QRectF target = targetRect();
+    // Only the margins beside the picture are filled: the picture covers the rest.
+    const QRegion margins = QRegion(rect()).subtracted(QRegion(target.toAlignedRect().adjusted(1, 1, -1, -1)));
+    for (const QRect& margin : margins)
+        painter.fillRect(margin, palette().color(QPalette::Dark));
     // Enlarged pixels stay sharp squares; a reduced picture is smoothed.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom() < 1.0);
     painter.drawImage(target, m_image);
