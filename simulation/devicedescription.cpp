@@ -589,6 +589,14 @@ public:
 
 } // namespace
 
+QStringList FrameSourceDescription::quantities()
+{
+    return { QStringLiteral("acquiring"), QStringLiteral("width"), QStringLiteral("height"), QStringLiteral("offsetX"),
+        QStringLiteral("offsetY"), QStringLiteral("pixelFormat"), QStringLiteral("reverseX"),
+        QStringLiteral("reverseY"), QStringLiteral("testPattern"), QStringLiteral("frameRate"),
+        QStringLiteral("brightness"), QStringLiteral("sensorWidth"), QStringLiteral("sensorHeight") };
+}
+
 bool DeviceDescription::fromJson(const QByteArray& json, DeviceDescription* description, QString* error)
 {
     Reader reader;
@@ -649,6 +657,34 @@ bool DeviceDescription::fromJson(const QByteArray& json, DeviceDescription* desc
         if (!reader.readNodeMap(maps.at(i), i, &nodeMap))
             return finish(false);
         result.nodeMaps.append(std::move(nodeMap));
+    }
+
+    const QJsonValue frameSource = top.value(QLatin1String("frameSource"));
+    if (!frameSource.isUndefined()) {
+        if (!frameSource.isObject())
+            return finish(reader.wrongType(QString(), QStringLiteral("frameSource"), frameSource, "an object"));
+        const QJsonObject object = frameSource.toObject();
+        const QStringList quantities = FrameSourceDescription::quantities();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            const QString field = QStringLiteral("frameSource.") + it.key();
+            if (it.key() != QLatin1String("nodeMap") && !quantities.contains(it.key()))
+                return finish(reader.failAt(QString(), field, QStringLiteral("unknown quantity")));
+            QString text;
+            if (it.value().isString())
+                text = it.value().toString();
+            else if (it.value().isDouble())
+                text = QString::number(it.value().toDouble(), 'g', 17);
+            else if (it.value().isBool())
+                text = it.value().toBool() ? QStringLiteral("1") : QStringLiteral("0");
+            else
+                return finish(reader.wrongType(QString(), field, it.value(), "a text or a number"));
+            if (it.key() == QLatin1String("nodeMap"))
+                result.frameSource.nodeMap = text;
+            else
+                result.frameSource.expressions.insert(it.key(), text);
+        }
+        if (result.frameSource.nodeMap.isEmpty())
+            return finish(reader.failAt(QString(), QStringLiteral("frameSource.nodeMap"), QStringLiteral("missing")));
     }
     return finish(true);
 }

@@ -3,6 +3,7 @@
 #include "parameters/genapienums.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QPair>
 #include <QString>
 #include <QStringList>
@@ -97,6 +98,23 @@ struct NodeMapDescription
     QVector<FeatureDescription> features;
 };
 
+/*!
+ * Where the camera's pictures come from: a node map and, for each quantity of
+ * the picture, an expression over that node map's features ("Width",
+ * "ExposureTime / 5000", ...). Quantities: acquiring, width, height, offsetX,
+ * offsetY, pixelFormat, reverseX, reverseY, testPattern, frameRate,
+ * brightness, sensorWidth, sensorHeight; each is optional.
+ */
+struct FrameSourceDescription
+{
+    QString nodeMap;
+    QHash<QString, QString> expressions; //!< quantity -> expression text
+
+    bool isSet() const { return !nodeMap.isEmpty(); }
+    //! The quantities a frame source knows.
+    static QStringList quantities();
+};
+
 struct DeviceDescription
 {
     int version = 1;
@@ -105,6 +123,7 @@ struct DeviceDescription
     QString serialNumber;
     QString transportLayerType = QStringLiteral("GEV");
     QVector<NodeMapDescription> nodeMaps;
+    FrameSourceDescription frameSource; //!< unset: the camera makes no pictures
 
     /*!
      * Reads a description from its JSON text. The document's form is checked

@@ -41,6 +41,14 @@ struct FeatureRef
  * One mutex guards everything. Public functions take it themselves; the
  * private ones, named ...Locked or called only from those, expect it held.
  * The lock is never held while a signal is emitted.
+ *
+ * The definitions are spread by concern: devicestate.cpp builds the state from
+ * its description and holds the device's hooks; devicestateevaluation.cpp the
+ * expressions, access and ranges; devicestatesnapshots.cpp the snapshots;
+ * devicestatedelivery.cpp the queue of change signals and its dispatcher;
+ * devicestatelookup.cpp the look-ups by name; devicestatepolling.cpp pending
+ * device values and the poll rules; devicestateparameters.cpp the operations
+ * of the parameter objects.
  */
 class DeviceState : public QEnableSharedFromThis<DeviceState>
 {
@@ -64,6 +72,8 @@ public:
     void setDeliveryThread(QThread* thread);
     bool changeOnDevice(const QString& fullName, const QVariant& value);
     qint64 clockMilliseconds() const;
+    //! Evaluates an expression over the features of the node map by name; unknown names read as 0.
+    ExpressionValue evaluateExpression(const QString& mapName, const Expression& expression);
 
     // ---- collection operations, by node map index
     QSharedPointer<ParameterCollection::IParameter> getParameter(int map, const QString& name);
@@ -194,6 +204,7 @@ private:
     DeviceState() = default;
 
     bool buildNodeMap(const NodeMapDescription& description, QString* error);
+    bool checkFrameSource(const FrameSourceDescription& frameSource, QString* error) const;
     bool bind(
         NodeMapState& m, int feature, const QString& field, const QString& text, BoundExpression* out, QString* error);
     FeatureExtras& extras(NodeMapState& m, int feature);

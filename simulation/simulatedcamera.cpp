@@ -1,6 +1,7 @@
 #include "simulatedcamera.h"
 
 #include "simulateddevice.h"
+#include "simulatedframesource.h"
 
 #include <QMetaObject>
 
@@ -9,6 +10,17 @@ namespace Simulation {
 SimulatedCamera::SimulatedCamera(QSharedPointer<SimulatedDevice> device)
     : m_device(std::move(device))
 {
+    if (!m_device->description().frameSource.isSet())
+        return;
+    m_frames = new SimulatedFrameSource(m_device, this);
+    connect(m_frames, &SimulatedFrameSource::frameReady, this, [this](const SimulatedFrame& frame) {
+        emit frameReady(frame.data, frame.width, frame.height, frame.pixelFormat, frame.frameId);
+    });
+}
+
+bool SimulatedCamera::hasImages() const
+{
+    return m_frames != nullptr;
 }
 
 SimulatedCamera::~SimulatedCamera() = default;

@@ -23,6 +23,7 @@
 namespace Simulation {
 
 class SimulatedDevice;
+class SimulatedFrameSource;
 
 //! One node map of a simulated camera, as FeatureTreeWidget::addParameterCollection() takes it.
 struct NodeMapEntry
@@ -122,15 +123,32 @@ public:
      */
     bool changeOnDevice(const QString& fullName, const QVariant& value);
 
+    /*!
+     * True if the camera makes pictures, as the default camera does: while
+     * it acquires (after its AcquisitionStart command, until
+     * AcquisitionStop), frameReady() brings them at its frame rate, drawn
+     * as its Width, Height, offsets, PixelFormat, ReverseX/Y, TestPattern,
+     * ExposureTime and Gain say.
+     */
+    bool hasImages() const;
+
 signals:
     //! The camera went away (unplug()); the host answers with FeatureTreeWidget::deviceIsClosed().
     void lost(const QString& reason);
+    /*!
+     * A picture of the acquisition: width x height pixels of the GenICam
+     * pixel format ("Mono8", "BayerRG8", "RGB8", ...), row after row without
+     * padding; multi-byte pixels are little-endian. frameId counts from 1.
+     * A format the camera cannot draw gives an empty data.
+     */
+    void frameReady(const QByteArray& data, int width, int height, const QString& pixelFormat, quint64 frameId);
 
 private:
     explicit SimulatedCamera(QSharedPointer<SimulatedDevice> device);
     static std::unique_ptr<SimulatedCamera> adopt(QSharedPointer<SimulatedDevice> device);
 
     QSharedPointer<SimulatedDevice> m_device;
+    SimulatedFrameSource* m_frames = nullptr;
 };
 
 } // namespace Simulation

@@ -137,4 +137,9 @@ qint64 SimulatedDevice::clockMilliseconds() const
     return m_state->clockMilliseconds();
 }
 
+ExpressionValue SimulatedDevice::evaluate(const QString& nodeMap, const Expression& expression) const
+{
+    return m_state->evaluateExpression(nodeMap, expression);
+}
+
 } // namespace Simulation

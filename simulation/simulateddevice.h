@@ -1,6 +1,7 @@
 #pragma once
 
 #include "devicedescription.h"
+#include "expression.h"
 #include "simulatedfault.h"
 #include "simulatednodemap.h"
 
@@ -82,6 +83,9 @@ public:
 
     //! The simulated time, advanced only by poll(elapsed).
     qint64 clockMilliseconds() const;
+
+    //! Evaluates an expression over the features of a node map, as the device's own are; unknown names read 0.
+    ExpressionValue evaluate(const QString& nodeMap, const Expression& expression) const;
 
 private:
     explicit SimulatedDevice(QSharedPointer<DeviceState> state);

@@ -1,6 +1,8 @@
 // The compiled catalogues: each loads from the library's resources, every text
 // of the sources has a finished translation in every language, and the tool
-// tips of the features change with the installed translator.
+// tips of the features change with the installed translator. The viewer's own
+// catalogues likewise: each compiled one holds every message, and every text
+// of the viewer's sources and form has a finished translation.
 
 #include "featuretreetestsupport.h"
 #include "featuretreewidgettestsupport.h"
@@ -98,9 +100,55 @@ QString toolTipCatalogue(const QString& language)
     return QStringLiteral(ZVC_TRANSLATION_DIR "/FeatureToolTips_%1.ts").arg(language);
 }
 
+#ifdef ZVC_VIEWER_TRANSLATION_DIR
+QString viewerCatalogue(const QString& language)
+{
+    return QStringLiteral(ZVC_VIEWER_TRANSLATION_DIR "/zarvex-viewer_%1.ts").arg(language);
+}
+
+QString compiledViewerCatalogue(const QString& language)
+{
+    return QStringLiteral(ZVC_VIEWER_QM_DIR "/zarvex-viewer_%1.qm").arg(language);
+}
+#endif
+
+//! Runs lupdate over the directories into a scratch catalogue and reads what it found.
+QList<Message> freshMessages(const QStringList& directories, QString* error)
+{
+    QTemporaryDir scratch;
+    if (!scratch.isValid())
+        return {};
+    const QString fresh = scratch.filePath(QStringLiteral("fresh.ts"));
+    QProcess lupdate;
+    lupdate.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    lupdate.start(QStringLiteral(ZVC_LUPDATE),
+        QStringList { QStringLiteral("-silent") } + directories + QStringList { QStringLiteral("-ts"), fresh });
+    if (!lupdate.waitForFinished(120000) || lupdate.exitCode() != 0) {
+        *error = QStringLiteral("lupdate failed");
+        return {};
+    }
+    return readCatalogue(fresh, error);
+}
+
 QString messageKey(const Message& message)
 {
     return message.context + QLatin1Char('|') + message.source + QLatin1Char('|') + message.comment;
+}
+
+//! The texts of found that the catalogue lacks or leaves unfinished.
+QStringList missingTranslations(const QList<Message>& found, const QString& language, const QString& catalogue)
+{
+    QString error;
+    QHash<QString, Message> kept;
+    for (const Message& message : readCatalogue(catalogue, &error))
+        kept.insert(messageKey(message), message);
+    QStringList missing;
+    for (const Message& message : found) {
+        const auto it = kept.constFind(messageKey(message));
+        if (it == kept.constEnd() || !it->finished)
+            missing.append(language + QLatin1String(" ") + message.context + QLatin1String(": ") + message.source);
+    }
+    return missing;
 }
 
 } // namespace
@@ -118,6 +166,13 @@ private slots:
     void toolTipCataloguesCoverTheSameFeatures();
     void everyFeatureOfTheDefaultCameraHasAToolTip();
     void toolTipOfExposureTimeFollowsTheTranslator();
+#ifdef ZVC_VIEWER_TRANSLATION_DIR
+    void eachViewerCatalogueIsCompiledWhole_data();
+    void eachViewerCatalogueIsCompiledWhole();
+    void everyTextOfTheViewerIsInItsCatalogues();
+    void viewerTranslationsAreTranslated_data();
+    void viewerTranslationsAreTranslated();
+#endif
 };
 
 void TestTranslations::eachCatalogueLoads_data()
@@ -152,6 +207,9 @@ void TestTranslations::everyMessageIsFinished_data()
     for (const QString& language : kLanguages) {
         QTest::newRow(qPrintable(QStringLiteral("sources ") + language)) << sourceCatalogue(language);
         QTest::newRow(qPrintable(QStringLiteral("tool tips ") + language)) << toolTipCatalogue(language);
+#ifdef ZVC_VIEWER_TRANSLATION_DIR
+        QTest::newRow(qPrintable(QStringLiteral("viewer ") + language)) << viewerCatalogue(language);
+#endif
     }
 }
 
@@ -173,32 +231,15 @@ void TestTranslations::everyTextOfTheSourcesIsInTheCatalogues()
 {
     // lupdate reads the sources afresh into a scratch catalogue; each text it
     // finds must stand, translated, in the catalogues kept in the repository.
-    QTemporaryDir scratch;
-    QVERIFY(scratch.isValid());
-    const QString fresh = scratch.filePath(QStringLiteral("fresh.ts"));
-    QProcess lupdate;
-    lupdate.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    lupdate.start(QStringLiteral(ZVC_LUPDATE),
-        { QStringLiteral("-silent"), QStringLiteral(ZVC_SOURCE_DIR "/featuretree"),
-            QStringLiteral(ZVC_SOURCE_DIR "/messages"), QStringLiteral(ZVC_SOURCE_DIR "/network"),
-            QStringLiteral("-ts"), fresh });
-    QVERIFY(lupdate.waitForFinished(120000));
-    QCOMPARE(lupdate.exitCode(), 0);
     QString error;
-    const QList<Message> found = readCatalogue(fresh, &error);
+    const QList<Message> found
+        = freshMessages({ QStringLiteral(ZVC_SOURCE_DIR "/featuretree"), QStringLiteral(ZVC_SOURCE_DIR "/messages"),
+                            QStringLiteral(ZVC_SOURCE_DIR "/network") },
+            &error);
     QVERIFY2(found.size() > 50, qPrintable(error));
-
     for (const QString& language : kLanguages) {
-        QHash<QString, Message> kept;
-        for (const Message& message : readCatalogue(sourceCatalogue(language), &error))
-            kept.insert(messageKey(message), message);
-        QStringList missing;
-        for (const Message& message : found) {
-            const auto it = kept.constFind(messageKey(message));
-            if (it == kept.constEnd() || !it->finished)
-                missing.append(message.context + QLatin1String(": ") + message.source);
-        }
-        QVERIFY2(missing.isEmpty(), qPrintable(language + QLatin1String(":\n") + missing.join(QLatin1Char('\n'))));
+        const QStringList missing = missingTranslations(found, language, sourceCatalogue(language));
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char('\n'))));
     }
 }
 
@@ -288,6 +329,77 @@ void TestTranslations::toolTipOfExposureTimeFollowsTheTranslator()
     }
     QCOMPARE(index.data(Qt::ToolTipRole).toString(), untranslated);
 }
+
+#ifdef ZVC_VIEWER_TRANSLATION_DIR
+void TestTranslations::eachViewerCatalogueIsCompiledWhole_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& language : kLanguages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestTranslations::eachViewerCatalogueIsCompiledWhole()
+{
+    QFETCH(QString, language);
+    QTranslator translator;
+    QVERIFY2(translator.load(compiledViewerCatalogue(language)), qPrintable(compiledViewerCatalogue(language)));
+    QString error;
+    const QList<Message> messages = readCatalogue(viewerCatalogue(language), &error);
+    QVERIFY2(messages.size() > 100, qPrintable(error));
+    for (const Message& message : messages) {
+        const QString text = translator.translate(qPrintable(message.context), qPrintable(message.source),
+            message.comment.isEmpty() ? nullptr : qPrintable(message.comment), 1);
+        QVERIFY2(!text.isEmpty(), qPrintable(message.context + QLatin1String(": ") + message.source));
+    }
+}
+
+void TestTranslations::everyTextOfTheViewerIsInItsCatalogues()
+{
+    QString error;
+    const QList<Message> found = freshMessages({ QStringLiteral(ZVC_VIEWER_SOURCE_DIR) }, &error);
+    QVERIFY2(found.size() > 100, qPrintable(error));
+    // The menus, the feature pane and the command line each have texts there.
+    QStringList contexts;
+    for (const Message& message : found)
+        contexts.append(message.context);
+    QVERIFY(contexts.contains(QStringLiteral("ViewerMainWindow")));
+    QVERIFY(contexts.contains(QStringLiteral("FeaturePane")));
+    QVERIFY(contexts.contains(QStringLiteral("main")));
+    for (const QString& language : kLanguages) {
+        const QStringList missing = missingTranslations(found, language, viewerCatalogue(language));
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char('\n'))));
+    }
+}
+
+void TestTranslations::viewerTranslationsAreTranslated_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& language : kLanguages.mid(1))
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestTranslations::viewerTranslationsAreTranslated()
+{
+    // A translation that only repeats the English text is a text left in
+    // English, unless it is a name or a placeholder alone.
+    QFETCH(QString, language);
+    QString error;
+    QStringList english;
+    for (const Message& message : readCatalogue(viewerCatalogue(language), &error)) {
+        bool letters = false;
+        for (const QChar c : message.source)
+            letters = letters || (c.isLetter() && c.unicode() < 0x80);
+        const QString plain = QString(message.source).remove(QRegularExpression(QStringLiteral("\\[id\\]")));
+        if (!letters || plain.isEmpty())
+            continue;
+        for (const QString& translation : message.translations) {
+            if (translation == message.source)
+                english.append(message.context + QLatin1String(": ") + message.source);
+        }
+    }
+    QVERIFY2(english.isEmpty(), qPrintable(english.join(QLatin1Char('\n'))));
+}
+#endif
 
 QTEST_MAIN(TestTranslations)
 #include "tst_translations.moc"

@@ -122,7 +122,13 @@ void FeaturePane::changeEvent(QEvent* event)
 
 void FeaturePane::setParameter(QSharedPointer<ParameterCollection::IParameter> parameter)
 {
+    if (m_parameter)
+        disconnect(m_parameter.data(), nullptr, this, nullptr);
     m_parameter = std::move(parameter);
+    // The pane follows the feature: value, range and access as the camera changes them.
+    if (m_parameter)
+        connect(m_parameter.data(), &ParameterCollection::IParameter::parameterDataChangedDecoupled, this,
+            &FeaturePane::fill);
     fill();
 }
 

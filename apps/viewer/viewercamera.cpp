@@ -22,6 +22,8 @@ ViewerCamera::ViewerCamera(std::unique_ptr<Simulation::SimulatedCamera> camera)
     : m_simulated(std::move(camera))
 {
     adopt(m_simulated);
+    if (m_simulated)
+        connect(m_simulated.get(), &Simulation::SimulatedCamera::frameReady, this, &ViewerCamera::frameReady);
 }
 
 #ifdef ZVC_WITH_ARAVIS
@@ -57,4 +59,9 @@ QString ViewerCamera::transportLayerType() const
 Simulation::SimulatedCamera* ViewerCamera::simulation() const
 {
     return m_simulated.get();
+}
+
+bool ViewerCamera::hasImages() const
+{
+    return m_simulated && m_simulated->hasImages();
 }

@@ -42,9 +42,14 @@ public:
     //! Null for a real camera.
     Simulation::SimulatedCamera* simulation() const;
 
+    //! True if the camera sends pictures through frameReady().
+    bool hasImages() const;
+
 signals:
     //! The camera went away.
     void lost(const QString& reason);
+    //! A picture: raw pixels of the GenICam pixel format, row after row.
+    void frameReady(const QByteArray& data, int width, int height, const QString& pixelFormat, quint64 frameId);
 
 private:
     //! Takes what the viewer needs from either kind of camera once, when it is opened.

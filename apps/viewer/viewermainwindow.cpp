@@ -1,5 +1,6 @@
 #include "viewermainwindow.h"
 
+#include "imagepane.h"
 #include "ui_viewermainwindow.h"
 #include "viewercamera.h"
 
@@ -10,6 +11,7 @@
 #include "messages/exceptionlogging.h"
 #include "messages/messageboxcheckable.h"
 #include "network/ipaddresswidget.h"
+#include "parameters/icommandparameter.h"
 #include "parameters/iintegerparameter.h"
 #include "parameters/parameterdata.h"
 #include "simulatedcamera.h"
@@ -28,14 +30,18 @@
 #include <QHostAddress>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QSettings>
+#include <QShortcut>
 #include <QStatusBar>
+#include <QStyle>
 #include <QThread>
+#include <QTimer>
 #include <QTreeView>
 
 namespace {
@@ -75,7 +81,8 @@ ViewerMainWindow::ViewerMainWindow(QWidget* parent)
     ui->splitter->setStretchFactor(0, 0);
     ui->splitter->setStretchFactor(1, 1);
     ui->splitter->setStretchFactor(2, 0);
-    ui->splitter->setSizes({ 250, 610, 320 });
+    ui->splitter->setSizes({ 220, 700, 470 });
+    ui->rightSplitter->setSizes({ 520, 280 });
 
     m_languageGroup = new QActionGroup(this);
     const QList<QAction*> languageActions
@@ -97,6 +104,23 @@ ViewerMainWindow::ViewerMainWindow(QWidget* parent)
     m_busyBar->setMaximumWidth(120);
     m_busyBar->hide();
     statusBar()->addPermanentWidget(m_busyBar);
+    m_pixelLabel = new QLabel(this);
+    m_pixelLabel->setObjectName(QStringLiteral("pixelLabel"));
+    statusBar()->addPermanentWidget(m_pixelLabel);
+    m_framesLabel = new QLabel(this);
+    m_framesLabel->setObjectName(QStringLiteral("framesLabel"));
+    statusBar()->addPermanentWidget(m_framesLabel);
+
+    ui->actionStartAcquisition->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
+    ui->actionStopAcquisition->setIcon(style()->standardIcon(QStyle::SP_MediaStop));
+    ui->actionZoomFit->setChecked(true);
+    connect(ui->imagePane, &ImagePane::pixelHovered, this, &ViewerMainWindow::onPixelHovered);
+    connect(ui->imagePane, &ImagePane::framePainted, this, &ViewerMainWindow::framePainted);
+    connect(ui->imagePane, &ImagePane::zoomChanged, this,
+        [this] { ui->actionZoomFit->setChecked(ui->imagePane->isFitting()); });
+    m_statisticsTimer = new QTimer(this);
+    m_statisticsTimer->setInterval(500);
+    connect(m_statisticsTimer, &QTimer::timeout, this, &ViewerMainWindow::updateFrameStatistics);
 
     connect(GetTheGlobalAsyncErrorQueue(), &AsyncErrorQueue::displayError, this, &ViewerMainWindow::onDisplayError);
 
@@ -109,8 +133,6 @@ ViewerMainWindow::ViewerMainWindow(QWidget* parent)
 ViewerMainWindow::~ViewerMainWindow()
 {
     closeCamera();
-    if (!m_translator.isEmpty())
-        QCoreApplication::removeTranslator(&m_translator);
 }
 
 QStringList ViewerMainWindow::simulatedTransportTypes()
@@ -120,7 +142,7 @@ QStringList ViewerMainWindow::simulatedTransportTypes()
 
 QStringList ViewerMainWindow::languages()
 {
-    return { QStringLiteral("en"), QStringLiteral("ja"), QStringLiteral("ko"), QStringLiteral("zh") };
+    return ViewerTranslations::languages();
 }
 
 void ViewerMainWindow::addCameraEntry(const QString& text, CameraKind kind, const QString& source)
@@ -160,8 +182,44 @@ void ViewerMainWindow::discoverAravisCameras()
             addCameraEntry(
                 QStringLiteral("%1 %2 (%3)").arg(info.vendor, info.model, info.address), AravisCamera, info.id);
         thread->deleteLater();
+        emit aravisDiscoveryFinished(found->size());
     });
     thread->start();
+#else
+    QTimer::singleShot(0, this, [this] { emit aravisDiscoveryFinished(0); });
+#endif
+}
+
+void ViewerMainWindow::openAravisCamera(const QString& id)
+{
+#ifdef ZVC_WITH_ARAVIS
+    auto* context = new QObject(this);
+    connect(this, &ViewerMainWindow::aravisDiscoveryFinished, context, [this, context, id] {
+        context->deleteLater();
+        int row = -1;
+        for (int i = 0; i < ui->cameraList->count() && row < 0; ++i) {
+            const QListWidgetItem* item = ui->cameraList->item(i);
+            if (item->data(KindRole).toInt() == AravisCamera
+                && (id.isEmpty() || item->data(SourceRole).toString() == id))
+                row = i;
+        }
+        QString message;
+        if (row < 0) {
+            message
+                = id.isEmpty() ? tr("No Aravis camera was found.") : tr("The Aravis camera %1 was not found.").arg(id);
+        } else if (!openCamera(row)) {
+            message = tr("The Aravis camera %1 cannot be opened.").arg(ui->cameraList->item(row)->text());
+        }
+        if (!message.isEmpty())
+            statusBar()->showMessage(message);
+        emit aravisCameraOpened(message.isEmpty(), message);
+    });
+    discoverAravisCameras();
+#else
+    Q_UNUSED(id)
+    const QString message = tr("This viewer was built without Aravis.");
+    statusBar()->showMessage(message);
+    QTimer::singleShot(0, this, [this, message] { emit aravisCameraOpened(false, message); });
 #endif
 }
 
@@ -218,7 +276,18 @@ bool ViewerMainWindow::openCamera(int row)
     });
     tree->setObjectName(QStringLiteral("featureTree"));
     m_tree = tree;
+    // The window's own Ctrl+F reaches the search line from every pane; the
+    // tree's shortcut of the same key would make it ambiguous.
+    for (QShortcut* shortcut : tree->findChildren<QShortcut*>()) {
+        if (shortcut->key() == ui->actionSearch->shortcut())
+            shortcut->setEnabled(false);
+    }
+    connect(camera.data(), &ViewerCamera::frameReady, ui->imagePane, &ImagePane::setFrame);
+    ui->imagePane->resetStatistics();
+    ui->imagePane->clearFrame();
     ui->treeLayout->addWidget(tree);
+    // Shown at once rather than from the event loop, so that the window is whole when this returns.
+    tree->show();
     connect(tree, &FeatureTreeWidget::onNewText, ui->featurePane, &FeaturePane::setValueText);
     connect(tree, QOverload<QSharedPointer<ParameterCollection::IParameter>>::of(&FeatureTreeWidget::onCurrentChanged),
         ui->featurePane, &FeaturePane::setParameter);
@@ -238,6 +307,10 @@ bool ViewerMainWindow::openCamera(int row)
     if (m_treeState.isEmpty() || !tree->restoreState(m_treeState, kTreeStateVersion))
         tree->treeView()->header()->resizeSection(0, 260);
     tree->expandRootNodes();
+    // The keyboard goes from the camera list and the picture into the tree,
+    // its search line first, and on to the feature pane.
+    if (auto* search = tree->findChild<QLineEdit*>(QStringLiteral("filterEdit")))
+        QWidget::setTabOrder(ui->imagePane, search);
 
     {
         const QSignalBlocker blocker(ui->cameraList);
@@ -260,7 +333,12 @@ void ViewerMainWindow::closeCamera()
     ui->featurePane->setParameter(QSharedPointer<ParameterCollection::IParameter>());
     m_camera.reset();
     m_openRow = -1;
+    m_acquiring = false;
+    m_statisticsTimer->stop();
     m_matchesLabel->clear();
+    m_framesLabel->clear();
+    m_pixelLabel->clear();
+    ui->imagePane->clearFrame();
     updateActions();
 }
 
@@ -287,6 +365,140 @@ ViewerCamera* ViewerMainWindow::camera() const
 QString ViewerMainWindow::statusText() const
 {
     return m_matchesLabel->text();
+}
+
+ImagePane* ViewerMainWindow::imagePane() const
+{
+    return ui->imagePane;
+}
+
+QString ViewerMainWindow::frameStatisticsText() const
+{
+    return m_framesLabel->text();
+}
+
+QString ViewerMainWindow::pixelText() const
+{
+    return m_pixelLabel->text();
+}
+
+bool ViewerMainWindow::runCommand(const QString& name)
+{
+    const auto command = cameraParameter(name).dynamicCast<ParameterCollection::ICommandParameter>();
+    if (!command) {
+        statusBar()->showMessage(tr("The camera has no %1").arg(name), 5000);
+        return false;
+    }
+    try {
+        command->execute(true);
+        return true;
+    } catch (const std::exception& e) {
+        showException(name, e, this);
+    } catch (...) {
+        showUnexpectedException(name, tr("%1 could not be run.").arg(name), this);
+    }
+    return false;
+}
+
+bool ViewerMainWindow::startAcquisition()
+{
+    if (!m_camera || m_acquiring)
+        return false;
+    ui->imagePane->resetStatistics();
+    if (!runCommand(QStringLiteral("AcquisitionStart")))
+        return false;
+    m_acquiring = true;
+    m_statisticsTimer->start();
+    updateFrameStatistics();
+    updatePlaceholder();
+    updateActions();
+    return true;
+}
+
+bool ViewerMainWindow::stopAcquisition()
+{
+    if (!m_camera || !m_acquiring)
+        return false;
+    runCommand(QStringLiteral("AcquisitionStop"));
+    m_acquiring = false;
+    m_statisticsTimer->stop();
+    updateFrameStatistics();
+    updatePlaceholder();
+    updateActions();
+    return true;
+}
+
+void ViewerMainWindow::updateFrameStatistics()
+{
+    if (!m_camera) {
+        m_framesLabel->clear();
+        return;
+    }
+    const ImagePane::Statistics statistics = ui->imagePane->statistics();
+    m_framesLabel->setText(tr("%1 frames, %2 fps, %3 lost")
+                               .arg(statistics.received)
+                               .arg(m_acquiring ? statistics.framesPerSecond : 0.0, 0, 'f', 1)
+                               .arg(statistics.lost()));
+}
+
+void ViewerMainWindow::onPixelHovered(int x, int y, const QString& value)
+{
+    if (x < 0)
+        m_pixelLabel->clear();
+    else
+        m_pixelLabel->setText(tr("x %1, y %2: %3").arg(x).arg(y).arg(value));
+}
+
+void ViewerMainWindow::updatePlaceholder()
+{
+    if (!m_camera)
+        ui->imagePane->setPlaceholderText(tr("No camera is open."));
+    else if (!m_camera->hasImages())
+        ui->imagePane->setPlaceholderText(tr("This camera sends no pictures to the viewer."));
+    else if (m_acquiring)
+        ui->imagePane->setPlaceholderText(tr("Waiting for the first frame..."));
+    else
+        ui->imagePane->setPlaceholderText(tr("Press Start Acquisition (F7) to see the picture."));
+}
+
+void ViewerMainWindow::on_actionSearch_triggered()
+{
+    if (!m_tree)
+        return;
+    if (auto* line = m_tree->findChild<QLineEdit*>(QStringLiteral("filterEdit"))) {
+        line->setFocus(Qt::ShortcutFocusReason);
+        line->selectAll();
+    }
+}
+
+void ViewerMainWindow::on_actionStartAcquisition_triggered()
+{
+    startAcquisition();
+}
+
+void ViewerMainWindow::on_actionStopAcquisition_triggered()
+{
+    stopAcquisition();
+}
+
+void ViewerMainWindow::on_actionZoomFit_triggered()
+{
+    ui->imagePane->fitToWindow();
+}
+
+void ViewerMainWindow::on_actionZoomActual_triggered()
+{
+    ui->imagePane->showActualSize();
+}
+
+void ViewerMainWindow::on_actionZoomIn_triggered()
+{
+    ui->imagePane->zoomIn();
+}
+
+void ViewerMainWindow::on_actionZoomOut_triggered()
+{
+    ui->imagePane->zoomOut();
 }
 
 bool ViewerMainWindow::selectFeature(const QString& fullName)
@@ -318,6 +530,10 @@ void ViewerMainWindow::updateActions()
         ui->actionUnplug->setEnabled(m_camera->simulation()->isPlugged());
         ui->actionReplug->setEnabled(!m_camera->simulation()->isPlugged());
     }
+    const bool canAcquire = open && m_camera->hasImages() && cameraParameter(QStringLiteral("AcquisitionStart"));
+    ui->actionStartAcquisition->setEnabled(canAcquire && !m_acquiring);
+    ui->actionStopAcquisition->setEnabled(open && m_acquiring);
+    updatePlaceholder();
 }
 
 void ViewerMainWindow::on_cameraList_currentRowChanged(int row)
@@ -592,18 +808,8 @@ void ViewerMainWindow::on_actionAbout_triggered()
 
 bool ViewerMainWindow::setLanguage(const QString& code)
 {
-    if (!languages().contains(code)) {
-        qDebug("zarvex-viewer: there is no catalogue for the language %s", qPrintable(code));
+    if (!m_translations.install(code))
         return false;
-    }
-    if (!m_translator.isEmpty())
-        QCoreApplication::removeTranslator(&m_translator);
-    const QString file = QStringLiteral(":/translation/ZarvexViewerComponents_%1.qm").arg(code);
-    if (!m_translator.load(file)) {
-        qWarning("zarvex-viewer: the catalogue %s cannot be loaded", qPrintable(file));
-        return false;
-    }
-    QCoreApplication::installTranslator(&m_translator);
     m_language = code;
     for (QAction* action : m_languageGroup->actions())
         action->setChecked(action->data().toString() == code);
@@ -634,6 +840,8 @@ void ViewerMainWindow::changeEvent(QEvent* event)
 
 void ViewerMainWindow::retranslate()
 {
+    updatePlaceholder();
+    updateFrameStatistics();
     for (int row = 0; row < ui->cameraList->count(); ++row) {
         QListWidgetItem* item = ui->cameraList->item(row);
         const QString source = item->data(SourceRole).toString();

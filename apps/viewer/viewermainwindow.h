@@ -3,20 +3,22 @@
 #include "messages/asyncerrorqueue.h"
 #include "parameters/genapienums.h"
 #include "parameters/iparameter.h"
+#include "viewertranslations.h"
 
 #include <QMainWindow>
 #include <QPointer>
 #include <QSharedPointer>
-#include <QTranslator>
 
 #include <memory>
 
 class FeatureTreeWidget;
+class ImagePane;
 class QActionGroup;
 class QLabel;
 class QListWidget;
 class QMenu;
 class QProgressBar;
+class QTimer;
 class ViewerCamera;
 class Ui_ViewerMainWindow;
 
@@ -40,13 +42,19 @@ public:
 
     //! The transport-layer types on which the default simulated camera is listed.
     static QStringList simulatedTransportTypes();
-    //! The language codes of the library's catalogues, "en" first.
+    //! The language codes of the catalogues, "en" first.
     static QStringList languages();
 
     //! Adds a camera from a JSON description; false, with the reason, if the file is refused.
     bool addDeviceFile(const QString& path, QString* error = nullptr);
     //! Looks for real cameras in the background; they join the list when found.
     void discoverAravisCameras();
+    /*!
+     * Looks for real cameras and opens the one with that Aravis id, or the
+     * first found when id is empty; aravisCameraOpened() tells how it went,
+     * and the status bar says so when there is none.
+     */
+    void openAravisCamera(const QString& id);
 
     //! Opens the camera in that row of the list; false if it cannot be opened.
     bool openCamera(int row);
@@ -55,7 +63,7 @@ public:
     //! Makes the feature with that full name ("@CameraDevice/Gain") the tree's current row; false if absent.
     bool selectFeature(const QString& fullName);
 
-    //! Installs the library's catalogue for the code ("en", "ja", "ko", "zh") and retranslates.
+    //! Installs the library's and the viewer's catalogues for the code ("en", "ja", "ko", "zh") and retranslates.
     bool setLanguage(const QString& code);
     QString language() const;
 
@@ -67,6 +75,25 @@ public:
     QListWidget* cameraList() const;
     ViewerCamera* camera() const;
     QString statusText() const;
+
+    ImagePane* imagePane() const;
+    //! Runs the camera's AcquisitionStart; false if it has none or refuses.
+    bool startAcquisition();
+    //! Runs the camera's AcquisitionStop; false if it has none or refuses.
+    bool stopAcquisition();
+    bool isAcquiring() const { return m_acquiring; }
+    //! The status bar's frame counts: received, frames per second, lost.
+    QString frameStatisticsText() const;
+    //! The status bar's position and value of the pixel under the cursor.
+    QString pixelText() const;
+
+signals:
+    //! A frame of the open camera was painted in the image pane.
+    void framePainted(quint64 frameId);
+    //! The search for real cameras ended with that many found.
+    void aravisDiscoveryFinished(int found);
+    //! openAravisCamera() ended: the camera is open, or message says why not.
+    void aravisCameraOpened(bool opened, const QString& message);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -88,6 +115,13 @@ private slots:
     void on_actionClearFaults_triggered();
     void on_actionChangeOnDevice_triggered();
     void on_actionAbout_triggered();
+    void on_actionSearch_triggered();
+    void on_actionStartAcquisition_triggered();
+    void on_actionStopAcquisition_triggered();
+    void on_actionZoomFit_triggered();
+    void on_actionZoomActual_triggered();
+    void on_actionZoomIn_triggered();
+    void on_actionZoomOut_triggered();
 
     void onLanguageTriggered(QAction* action);
     void onContextMenuRequested(QPoint const& point, QSharedPointer<QMenu> menu);
@@ -96,6 +130,8 @@ private slots:
     void onViewAllFavoritesStateChanged(bool on);
     void onFilterMatchesChanged(int total, int hidden);
     void onDisplayError(AsyncErrorQueue::ErrorSeverity severity, QString text, QString details, QWidget* parent);
+    void onPixelHovered(int x, int y, const QString& value);
+    void updateFrameStatistics();
 
 private:
     void addCameraEntry(const QString& text, CameraKind kind, const QString& source);
@@ -106,15 +142,21 @@ private:
     QSharedPointer<ParameterCollection::IParameter> cameraParameter(const QString& name) const;
     QString readAddress(const QString& name) const;
     bool writeAddress(const QString& name, const QString& address);
+    bool runCommand(const QString& name);
+    void updatePlaceholder();
 
     std::unique_ptr<Ui_ViewerMainWindow> ui;
     QActionGroup* m_languageGroup = nullptr;
     QLabel* m_matchesLabel = nullptr;
     QProgressBar* m_busyBar = nullptr;
+    QLabel* m_pixelLabel = nullptr;
+    QLabel* m_framesLabel = nullptr;
+    QTimer* m_statisticsTimer = nullptr;
+    bool m_acquiring = false;
     QPointer<FeatureTreeWidget> m_tree;
     QSharedPointer<ViewerCamera> m_camera;
     QByteArray m_treeState;
-    QTranslator m_translator;
+    ViewerTranslations m_translations;
     QString m_language = QStringLiteral("en");
     int m_openRow = -1;
 };

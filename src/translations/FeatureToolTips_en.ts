@@ -48,6 +48,10 @@
         <translation>True while the camera is taking images.</translation>
     </message>
     <message>
+        <source>TLParamsLocked_Tooltip</source>
+        <translation>1 while the camera acquires; the size and format of the image cannot be changed then.</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>Stops taking images after the current image.</translation>
     </message>

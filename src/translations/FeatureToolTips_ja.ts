@@ -48,6 +48,10 @@
         <translation>カメラが撮像中のとき真。</translation>
     </message>
     <message>
+        <source>TLParamsLocked_Tooltip</source>
+        <translation>撮像中は 1。その間は画像のサイズと形式を変更できません。</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>現在の画像の後で撮像を停止します。</translation>
     </message>

@@ -48,6 +48,10 @@
         <translation>카메라가 촬영 중이면 참입니다.</translation>
     </message>
     <message>
+        <source>TLParamsLocked_Tooltip</source>
+        <translation>수집 중에는 1이며, 그동안 이미지의 크기와 형식을 바꿀 수 없습니다.</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>현재 이미지 다음에 촬영을 멈춥니다.</translation>
     </message>

@@ -48,6 +48,10 @@
         <translation>相机正在采集图像时为真。</translation>
     </message>
     <message>
+        <source>TLParamsLocked_Tooltip</source>
+        <translation>采集期间为 1，此时无法更改图像的尺寸和格式。</translation>
+    </message>
+    <message>
         <source>AcquisitionStop_Tooltip</source>
         <translation>在当前图像之后停止采集。</translation>
     </message>
