@@ -7,7 +7,8 @@
 # favourites settings file, a drop payload of tree items, and the simulated
 # camera's JSON device description, each with its seeds; and the public
 # slots, methods and properties of the exported classes, called through
-# QMetaObject on several widgets at once. Fails on any
+# QMetaObject on several widgets at once; and the camera settings file reader,
+# seeded with a saved default camera and a few small and damaged files. Fails on any
 # crash, sanitizer report, leak, time-out or memory blow-up; the input that
 # caused it is kept in build-fuzz/artifacts/.
 #   scripts/fuzz-smoke.sh            180 seconds in all
@@ -25,7 +26,7 @@ if [ "$qt" = 6 ]; then
 fi
 "$root/scripts/setup.sh" "${setup_arguments[@]}"
 
-fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators fuzz_favoritessettings fuzz_dropmime fuzz_devicejson fuzz_metaobject)
+fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators fuzz_favoritessettings fuzz_dropmime fuzz_devicejson fuzz_metaobject fuzz_camerasettings)
 share=$(( seconds / ${#fuzzers[@]} ))
 if [ "$share" -lt 1 ]; then
     share=1
@@ -105,3 +106,7 @@ ASAN_OPTIONS="$ASAN_OPTIONS:fast_unwind_on_malloc=0" run fuzz_devicejson "$corpu
 corpus="$build/corpus/metaobject"
 mkdir -p "$corpus"
 run fuzz_metaobject -detect_leaks=0 "$corpus" "$root/fuzz/seeds/metaobject"
+
+corpus="$build/corpus/camerasettings"
+mkdir -p "$corpus"
+ASAN_OPTIONS="$ASAN_OPTIONS:fast_unwind_on_malloc=0" run fuzz_camerasettings "$corpus" "$root/fuzz/seeds/camerasettings"
