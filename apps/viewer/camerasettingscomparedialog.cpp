@@ -5,6 +5,18 @@
 #include <QFileInfo>
 #include <QPushButton>
 
+QTableWidgetItem* CameraSettingsCompareDialog::greyItem(const QString& text) const
+{
+    auto* item = new QTableWidgetItem(text);
+    item->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
+    return item;
+}
+
+QTableWidgetItem* CameraSettingsCompareDialog::valueItem(const QString& value) const
+{
+    return value.isEmpty() ? greyItem(tr("(empty)")) : new QTableWidgetItem(value);
+}
+
 CameraSettingsCompareDialog::CameraSettingsCompareDialog(QWidget* parent)
     : QDialog(parent)
     , ui(new Ui_CameraSettingsCompareDialog)
@@ -40,19 +52,23 @@ void CameraSettingsCompareDialog::setDifferences(
             ? QString()
             : QStringLiteral("%1 = %2").arg(difference.file.selector, difference.file.selectorEntry);
         table->setItem(row, 1, new QTableWidgetItem(entry));
-        auto* camera = new QTableWidgetItem(difference.presentOnCamera ? difference.cameraValue : tr("(not present)"));
-        if (!difference.presentOnCamera)
-            camera->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
-        table->setItem(row, 2, camera);
-        table->setItem(row, 3, new QTableWidgetItem(difference.file.value));
+        table->setItem(
+            row, 2, difference.presentOnCamera ? valueItem(difference.cameraValue) : greyItem(tr("(not present)")));
+        table->setItem(row, 3, valueItem(difference.file.value));
     }
     table->resizeColumnsToContents();
     const QString name = fileName.isEmpty() ? QString() : QFileInfo(fileName).fileName();
-    ui->summaryLabel->setText(differences.isEmpty()
-            ? tr("The camera holds every value of %1.").arg(name)
-            : tr("%n value(s) of %1 differ from the camera. The checked ones are written when you apply them.", nullptr,
-                differences.size())
-                  .arg(name));
+    if (differences.isEmpty())
+        ui->summaryLabel->setText(tr("The camera holds every value of %1.").arg(name));
+    else if (differences.size() == 1)
+        ui->summaryLabel->setText(
+            tr("One value of %1 differs from the camera. If it is checked, it is written when you apply it.")
+                .arg(name));
+    else
+        ui->summaryLabel->setText(
+            tr("%1 values of %2 differ from the camera. The checked ones are written when you apply them.")
+                .arg(differences.size())
+                .arg(name));
     updateApplyButton();
 }
 

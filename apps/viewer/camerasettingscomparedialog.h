@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QTableWidgetItem;
 class Ui_CameraSettingsCompareDialog;
 
 /*!
@@ -36,6 +37,10 @@ private slots:
     void updateApplyButton();
 
 private:
+    QTableWidgetItem* greyItem(const QString& text) const;
+    //! The value, or a grey "(empty)" for an empty one.
+    QTableWidgetItem* valueItem(const QString& value) const;
+
     std::unique_ptr<Ui_CameraSettingsCompareDialog> ui;
     QList<CameraSettings::Difference> m_differences;
 };

@@ -371,7 +371,7 @@ QStringList CameraSettings::Report::toLines() const
     if (stopped)
         lines.append(tr("The restore stopped: %1").arg(stopReason));
     for (const ReportEntry& entry : entries) {
-        QString line = QStringLiteral("%1/%2 = %3: %4")
+        QString line = QStringLiteral("%1/%2 = \"%3\": %4")
                            .arg(entry.value.nodeMap, entry.value.displayName(), entry.value.value,
                                CameraSettings::outcomeText(entry.outcome));
         if (!entry.message.isEmpty())
