@@ -26,8 +26,6 @@
 using namespace ParameterCollection;
 using Simulation::SimulatedCamera;
 
-Q_DECLARE_METATYPE(CameraSettings::Outcome)
-
 namespace {
 
 const QString cameraDevice = QStringLiteral("@CameraDevice");
