@@ -852,6 +852,20 @@ QString NodeMapState::property(
     }
     if (key == QLatin1String("Name"))
         return entry.shortName;
+    if (key == QLatin1String("SelectedFeatures")) {
+        // Aravis gathers each node's pSelected: the features this one selects.
+        if (!ARV_IS_GC_SELECTOR(node) || !arv_gc_selector_is_selector(ARV_GC_SELECTOR(node)))
+            return defaultValue;
+        QStringList names;
+        for (const GSList* it = arv_gc_selector_get_selected_features(ARV_GC_SELECTOR(node)); it; it = it->next) {
+            if (!it->data || !ARV_IS_GC_FEATURE_NODE(it->data))
+                continue;
+            const char* name = arv_gc_feature_node_get_name(ARV_GC_FEATURE_NODE(it->data));
+            if (name && *name)
+                names.append(QString::fromUtf8(name));
+        }
+        return names.isEmpty() ? defaultValue : names.join(QLatin1Char(','));
+    }
     return defaultValue;
 }
 

@@ -150,6 +150,7 @@ check_qt() {
         "/usr/include/$name/featuretree/featuretreewidget.h" \
         "/usr/include/$name/messages/asyncerrorqueue.h" \
         "/usr/include/$name/network/ipaddresswidget.h" \
+        "/usr/include/$name/camerasettings/camerasettings.h" \
         "/usr/share/doc/$devel/changelog.gz" \
         "/usr/share/doc/$devel/copyright"; do
         grep -Fxq "$file" "$work/files-$devel" || fail "$devel lacks $file"

@@ -7,9 +7,10 @@
 # favourites settings file, a drop payload of tree items, and the simulated
 # camera's JSON device description, each with its seeds; the public
 # slots, methods and properties of the exported classes, called through
-# QMetaObject on several widgets at once; and a camera's GenICam document
-# through the Aravis backend, seeded with small documents, ours and Aravis's
-# own fake camera's (where Aravis is built). Fails on any
+# QMetaObject on several widgets at once; the camera settings file reader,
+# seeded with a saved default camera and a few small and damaged files; and a
+# camera's GenICam document through the Aravis backend, seeded with small
+# documents, ours and Aravis's own fake camera's (where Aravis is built). Fails on any
 # crash, sanitizer report, leak, time-out or memory blow-up; the input that
 # caused it is kept in build-fuzz/artifacts/.
 #   scripts/fuzz-smoke.sh            180 seconds in all
@@ -27,7 +28,7 @@ if [ "$qt" = 6 ]; then
 fi
 "$root/scripts/setup.sh" "${setup_arguments[@]}"
 
-fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators fuzz_favoritessettings fuzz_dropmime fuzz_devicejson fuzz_metaobject)
+fuzzers=(fuzz_nodemapfilter fuzz_restorestate fuzz_validators fuzz_favoritessettings fuzz_dropmime fuzz_devicejson fuzz_metaobject fuzz_camerasettings)
 if pkg-config --exists aravis-0.8; then
     fuzzers+=(fuzz_genicamdocument)
 fi
@@ -110,6 +111,10 @@ ASAN_OPTIONS="$ASAN_OPTIONS:fast_unwind_on_malloc=0" run fuzz_devicejson "$corpu
 corpus="$build/corpus/metaobject"
 mkdir -p "$corpus"
 run fuzz_metaobject -detect_leaks=0 "$corpus" "$root/fuzz/seeds/metaobject"
+
+corpus="$build/corpus/camerasettings"
+mkdir -p "$corpus"
+ASAN_OPTIONS="$ASAN_OPTIONS:fast_unwind_on_malloc=0" run fuzz_camerasettings "$corpus" "$root/fuzz/seeds/camerasettings"
 
 if [[ " ${fuzzers[*]} " == *" fuzz_genicamdocument "* ]]; then
     corpus="$build/corpus/genicamdocument"

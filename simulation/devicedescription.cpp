@@ -689,4 +689,22 @@ bool DeviceDescription::fromJson(const QByteArray& json, DeviceDescription* desc
     return finish(true);
 }
 
+QStringList selectedFeatureNames(const NodeMapDescription& map, int selector, const QString& tlType)
+{
+    QStringList names;
+    if (selector < 0 || selector >= map.features.size())
+        return names;
+    const FeatureDescription& s = map.features.at(selector);
+    if (s.kind != FeatureKind::Enumeration && s.kind != FeatureKind::Integer)
+        return names;
+    for (const FeatureDescription& feature : map.features) {
+        if (feature.selector.isEmpty() || feature.selector != s.name)
+            continue;
+        if (!feature.transportTypes.isEmpty() && !feature.transportTypes.contains(tlType))
+            continue;
+        names.append(feature.name);
+    }
+    return names;
+}
+
 } // namespace Simulation

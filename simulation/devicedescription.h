@@ -135,6 +135,13 @@ struct DeviceDescription
     static bool fromJson(const QByteArray& json, DeviceDescription* description, QString* error);
 };
 
+/*!
+ * The short names of the features of the node map whose "selector" is the
+ * feature at index selector, in the node map's order; features described for
+ * other transport layers than tlType are left out.
+ */
+QStringList selectedFeatureNames(const NodeMapDescription& map, int selector, const QString& tlType);
+
 //! "Beginner", "Expert", "Guru", "Invisible"; false for any other text.
 bool parseVisibility(const QString& text, GenApi::EVisibility* visibility);
 //! "NI", "NA", "WO", "RO", "RW"; false for any other text.

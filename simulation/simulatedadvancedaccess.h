@@ -10,6 +10,8 @@ namespace Simulation {
  * Property access of one simulated parameter. Reads "DisplayName",
  * "Description", "Tooltip", "DocuURL", "Unit", "Representation", and the
  * current "Visibility" and "AccessMode"; imposes "Visibility" and "AccessMode".
+ * A selector answers "SelectedFeatures" with the short names of the features
+ * that name it as their selector, comma-separated; other features haven't got it.
  */
 class SimulatedAdvancedAccess : public ParameterCollection::IAdvancedParameterAccess
 {

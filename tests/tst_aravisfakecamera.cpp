@@ -11,6 +11,7 @@
 
 #include "featuretreewidgettestsupport.h"
 
+#include "camerasettings/camerasettings.h"
 #include "featuretree/featuretreeinodeitem.h"
 #include "featuretree/featuretreewidget.h"
 #include "featuretree/ifeaturetreemodelextension.h"
@@ -51,6 +52,8 @@ private slots:
     void openFillWritePollAndLose_data();
     void openFillWritePollAndLose();
     void editInTheWidgetAndLose();
+    void settingsRoundTrip_data();
+    void settingsRoundTrip();
 
 private:
     QString m_busy; //!< why the loopback interface can't be ours, or empty
@@ -307,6 +310,85 @@ void TestAravisFakeCamera::editInTheWidgetAndLose()
 // code, which CTest reports as not run (SKIP_RETURN_CODE); one failure or
 // more exits with their count, as QtTest's own main does, and is a failure
 // whatever else was skipped.
+void TestAravisFakeCamera::settingsRoundTrip_data()
+{
+    QTest::addColumn<QString>("genicamFile");
+    QTest::newRow("Aravis's document") << QString();
+    QTest::newRow("our document") << QStringLiteral(ZVC_ARAVIS_TEST_DATA "/zx-fake-gige-camera.xml");
+}
+
+void TestAravisFakeCamera::settingsRoundTrip()
+{
+    QFETCH(QString, genicamFile);
+    if (!m_busy.isEmpty())
+        SKIP_WITHOUT_CAMERA(qPrintable(m_busy));
+    const QString serial = QStringLiteral("ZVS%1%2")
+                               .arg(QCoreApplication::applicationPid())
+                               .arg(QTest::currentDataTag()[0] == 'A' ? 'A' : 'Z');
+    Aravis::FakeGigECamera camera(serial, QStringLiteral("lo"), genicamFile);
+    if (!camera.isRunning())
+        SKIP_WITHOUT_CAMERA(qPrintable(camera.errorString()));
+    const QString deviceId = camera.findDeviceId();
+    if (deviceId.isEmpty())
+        SKIP_WITHOUT_CAMERA(qPrintable(QStringLiteral("the fake camera %1 is not found").arg(serial)));
+    QString error;
+    QSharedPointer<Aravis::AravisDevice> device = Aravis::AravisDevice::open(deviceId, &error);
+    QVERIFY2(device, qPrintable(error));
+    QSharedPointer<Aravis::AravisNodeMap> map = device->nodeMap(QStringLiteral("@CameraDevice"));
+    QVERIFY(map);
+
+    CameraSettings settings;
+    settings.addParameterCollection(QStringLiteral("@CameraDevice"), map);
+    // The fake camera's documents name no pSelected: a camera without
+    // selectors, whose values are all saved as they stand.
+    const CameraSettings::Document saved = settings.save(&error);
+    QVERIFY2(error.isEmpty(), qPrintable(error));
+    QCOMPARE(saved.model, QStringLiteral("Fake"));
+    for (const CameraSettings::Value& value : saved.values)
+        QVERIFY2(value.selector.isEmpty(), qPrintable(value.displayName()));
+    QVERIFY2(saved.values.size() >= 5, qPrintable(QString::number(saved.values.size())));
+
+    // Change what the file holds: plain values and TriggerMode under every trigger entry.
+    int changed = 0;
+    for (const CameraSettings::Value& value : saved.values) {
+        const auto parameter = map->getParameter(value.fullName());
+        try {
+            const auto data = parameter->getParameterData();
+            QString other;
+            if (const auto* e = dynamic_cast<const EnumParameterData*>(data.data())) {
+                for (const QString& symbol : e->symbolicValues)
+                    if (symbol != data->valueText && other.isEmpty())
+                        other = symbol;
+            } else if (const auto* i = dynamic_cast<const IntegerParameterData*>(data.data())) {
+                other = QString::number(i->value == i->minimum ? i->minimum + i->increment : i->minimum);
+            } else if (const auto* f = dynamic_cast<const FloatParameterData*>(data.data())) {
+                other = QString::number(f->value == f->minimum ? (f->minimum + f->maximum) / 2 : f->minimum);
+            }
+            if (other.isEmpty())
+                continue;
+            parameter->setValueFromString(other);
+            changed += parameter->getParameterData()->valueText != value.value ? 1 : 0;
+        } catch (const std::exception&) {
+        }
+    }
+    QVERIFY2(changed >= 3, qPrintable(QString::number(changed)));
+    QVERIFY(!settings.compare(saved).isEmpty());
+
+    const CameraSettings::Report report = settings.restore(saved);
+    QVERIFY2(report.isComplete(), qPrintable(report.toLines().join(QLatin1Char('\n'))));
+    // A write may bring others back with it (a binning its width), so fewer writes than changes.
+    QVERIFY(report.count(CameraSettings::Written) >= 2);
+    const QList<CameraSettings::Difference> left = settings.compare(saved);
+    QStringList names;
+    for (const CameraSettings::Difference& difference : left)
+        names.append(difference.file.displayName() + QLatin1Char('=') + difference.cameraValue);
+    QVERIFY2(left.isEmpty(), qPrintable(names.join(QLatin1Char(' '))));
+    const CameraSettings::Document again = settings.save();
+    QCOMPARE(again.values.size(), saved.values.size());
+    for (int i = 0; i < saved.values.size(); ++i)
+        QVERIFY2(again.values.at(i) == saved.values.at(i), qPrintable(saved.values.at(i).displayName()));
+}
+
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);

@@ -6,7 +6,9 @@
 #include "arvglib.h"
 
 #include "aravisdevice.h"
+
 #include "aravisnodemap.h"
+#include "camerasettings/camerasettings.h"
 #include "sparsememorydevice.h"
 
 #include "featuretreetestsupport.h"
@@ -134,6 +136,7 @@ private slots:
     void properties();
     void aliasOfAFloat();
     void selectorChangesTheSelectedFeature();
+    void selectorNamesWhatItSelects();
     void writeEmitsOnceForTheNodeAndItsDependents();
     void emissionIsDecoupledAndToleratesWritingSlots();
     void writesRefused_data();
@@ -499,6 +502,40 @@ void TestAravisNodeMap::selectorChangesTheSelectedFeature()
     QCOMPARE(gain->getParameterData()->valueText, QString("12.0"));
     m_map->getParameter(QStringLiteral("GainSelector"))->setValueFromString(QStringLiteral("Red"));
     QCOMPARE(gain->getParameterData()->valueText, QString("7.5"));
+}
+
+void TestAravisNodeMap::selectorNamesWhatItSelects()
+{
+    // pSelected of the document, through Aravis.
+    const auto selector = m_map->getParameter(QStringLiteral("GainSelector"));
+    QCOMPARE(selector->advancedAccess()->getProperty(QStringLiteral("SelectedFeatures")), QString("Gain,GainRaw"));
+    QCOMPARE(m_map->getParameter(QStringLiteral("Gain"))
+                 ->advancedAccess()
+                 ->getProperty(QStringLiteral("SelectedFeatures"), QStringLiteral("none")),
+        QString("none"));
+
+    // Settings saved under every entry, and restored after a change under one of them.
+    CameraSettings settings;
+    settings.addParameterCollection(QStringLiteral("@CameraDevice"), m_map);
+    const CameraSettings::Document saved = settings.save();
+    QStringList entries;
+    for (const CameraSettings::Value& value : saved.values)
+        if (value.feature == QLatin1String("Gain") && value.selector == QLatin1String("GainSelector"))
+            entries.append(value.selectorEntry);
+    QVERIFY2(entries.size() >= 2 && entries.contains(QStringLiteral("Red")), qPrintable(entries.join(',')));
+    QCOMPARE(selector->getParameterData()->valueText, QString("All"));
+    selector->setValueFromString(QStringLiteral("Red"));
+    m_map->getParameter(QStringLiteral("Gain"))->setValueFromString(QStringLiteral("9.5"));
+    selector->setValueFromString(QStringLiteral("All"));
+    // Gain under Red differs, and GainRaw under Red, which it is computed from.
+    const QList<CameraSettings::Difference> differences = settings.compare(saved);
+    QVERIFY(!differences.isEmpty());
+    for (const CameraSettings::Difference& difference : differences)
+        QCOMPARE(difference.file.selectorEntry, QString("Red"));
+    const CameraSettings::Report report = settings.restore(saved);
+    QVERIFY2(report.isComplete(), qPrintable(report.toLines().join(QLatin1Char('\n'))));
+    QVERIFY(settings.compare(saved).isEmpty());
+    QCOMPARE(selector->getParameterData()->valueText, QString("All"));
 }
 
 void TestAravisNodeMap::writeEmitsOnceForTheNodeAndItsDependents()

@@ -1,5 +1,6 @@
 #include "viewermainwindow.h"
 
+#include "camerasettingscommands.h"
 #include "imagepane.h"
 #include "ui_viewermainwindow.h"
 #include "viewercamera.h"
@@ -565,6 +566,21 @@ void ViewerMainWindow::on_actionOpenDevice_triggered()
         return;
     }
     ui->cameraList->setCurrentRow(ui->cameraList->count() - 1);
+}
+
+void ViewerMainWindow::on_actionSaveCameraSettings_triggered()
+{
+    CameraSettingsCommands::save(this, m_camera.data());
+}
+
+void ViewerMainWindow::on_actionLoadCameraSettings_triggered()
+{
+    CameraSettingsCommands::load(this, m_camera.data());
+}
+
+void ViewerMainWindow::on_actionCompareCameraSettings_triggered()
+{
+    CameraSettingsCommands::compare(this, m_camera.data());
 }
 
 void ViewerMainWindow::on_actionPolling_toggled(bool on)

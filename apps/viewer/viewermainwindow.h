@@ -103,6 +103,9 @@ private slots:
     void on_cameraList_currentRowChanged(int row);
     void on_levelCombo_activated(int index);
     void on_actionOpenDevice_triggered();
+    void on_actionSaveCameraSettings_triggered();
+    void on_actionLoadCameraSettings_triggered();
+    void on_actionCompareCameraSettings_triggered();
     void on_actionPolling_toggled(bool on);
     void on_actionViewAllFavorites_toggled(bool on);
     void on_actionCopyTree_triggered();

@@ -34,6 +34,7 @@ foreach(expected
         include/${PACKAGE}/zarvexviewercomponents_export.h
         include/${PACKAGE}/parameters/iparameter.h
         include/${PACKAGE}/featuretree/featuretreewidget.h
+        include/${PACKAGE}/camerasettings/camerasettings.h
         lib/libZarvexSimulation${NAME_SUFFIX}.so.6
         lib/cmake/${PACKAGE}/${PACKAGE}SimulationTargets.cmake
         lib/pkgconfig/ZarvexSimulation${NAME_SUFFIX}.pc
