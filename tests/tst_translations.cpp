@@ -7,6 +7,7 @@
 #include "featuretreetestsupport.h"
 #include "featuretreewidgettestsupport.h"
 
+#include "camerasettings/camerasettings.h"
 #include "featuretree/featuretreewidget.h"
 #include "featuretree/ifeaturetreemodelextension.h"
 
@@ -166,6 +167,7 @@ private slots:
     void toolTipCataloguesCoverTheSameFeatures();
     void everyFeatureOfTheDefaultCameraHasAToolTip();
     void toolTipOfExposureTimeFollowsTheTranslator();
+    void restoreReportFollowsTheTranslator();
 #ifdef ZVC_VIEWER_TRANSLATION_DIR
     void eachViewerCatalogueIsCompiledWhole_data();
     void eachViewerCatalogueIsCompiledWhole();
@@ -232,10 +234,10 @@ void TestTranslations::everyTextOfTheSourcesIsInTheCatalogues()
     // lupdate reads the sources afresh into a scratch catalogue; each text it
     // finds must stand, translated, in the catalogues kept in the repository.
     QString error;
-    const QList<Message> found
-        = freshMessages({ QStringLiteral(ZVC_SOURCE_DIR "/featuretree"), QStringLiteral(ZVC_SOURCE_DIR "/messages"),
-                            QStringLiteral(ZVC_SOURCE_DIR "/network") },
-            &error);
+    const QList<Message> found = freshMessages(
+        { QStringLiteral(ZVC_SOURCE_DIR "/featuretree"), QStringLiteral(ZVC_SOURCE_DIR "/messages"),
+            QStringLiteral(ZVC_SOURCE_DIR "/network"), QStringLiteral(ZVC_SOURCE_DIR "/camerasettings") },
+        &error);
     QVERIFY2(found.size() > 50, qPrintable(error));
     for (const QString& language : kLanguages) {
         const QStringList missing = missingTranslations(found, language, sourceCatalogue(language));
@@ -328,6 +330,33 @@ void TestTranslations::toolTipOfExposureTimeFollowsTheTranslator()
         seen.append(translated);
     }
     QCOMPARE(index.data(Qt::ToolTipRole).toString(), untranslated);
+}
+
+void TestTranslations::restoreReportFollowsTheTranslator()
+{
+    // The report's lines are made by a struct nested in CameraSettings: its
+    // texts must be looked up in the catalogue under CameraSettings too.
+    CameraSettings::Report report;
+    report.passes = 1;
+    report.stopped = true;
+    report.stopReason = QStringLiteral("x");
+    const QStringList untranslated = report.toLines();
+    QVERIFY(untranslated.size() >= 2);
+    for (const QString& language : kLanguages) {
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(":/translation/ZarvexViewerComponents_%1.qm").arg(language)));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        const QStringList translated = report.toLines();
+        const QString outcome = CameraSettings::outcomeText(CameraSettings::Refused);
+        QCoreApplication::removeTranslator(&translator);
+        QCOMPARE(translated.size(), untranslated.size());
+        if (language == QLatin1String("en"))
+            continue;
+        for (int i = 0; i < translated.size(); ++i)
+            QVERIFY2(
+                translated.at(i) != untranslated.at(i), qPrintable(language + QLatin1String(": ") + translated.at(i)));
+        QVERIFY2(outcome != QLatin1String("refused"), qPrintable(language));
+    }
 }
 
 #ifdef ZVC_VIEWER_TRANSLATION_DIR

@@ -356,8 +356,8 @@ bool CameraSettings::Report::isComplete() const
 QStringList CameraSettings::Report::toLines() const
 {
     QStringList lines;
-    lines.append(tr("%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, "
-                    "%7 not reached; %8 passes.")
+    lines.append(CameraSettings::tr("%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, "
+                                    "%7 not reached; %8 passes.")
                      .arg(entries.size())
                      .arg(count(Written))
                      .arg(count(AlreadyEqual))
@@ -367,9 +367,10 @@ QStringList CameraSettings::Report::toLines() const
                      .arg(count(NotReached))
                      .arg(passes));
     if (!sameModel)
-        lines.append(tr("The file was saved from a %1; this camera is a %2.").arg(fileModel, cameraModel));
+        lines.append(
+            CameraSettings::tr("The file was saved from a %1; this camera is a %2.").arg(fileModel, cameraModel));
     if (stopped)
-        lines.append(tr("The restore stopped: %1").arg(stopReason));
+        lines.append(CameraSettings::tr("The restore stopped: %1").arg(stopReason));
     for (const ReportEntry& entry : entries) {
         QString line = QStringLiteral("%1/%2 = \"%3\": %4")
                            .arg(entry.value.nodeMap, entry.value.displayName(), entry.value.value,

@@ -55,7 +55,8 @@ set_source_files_properties(${ZVC_TRANSLATION_RESOURCES} PROPERTIES OBJECT_DEPEN
 # translate what it added.
 add_custom_target(zvc_lupdate
     COMMAND ${ZVC_QT}::lupdate -silent -locations relative -no-obsolete ${CMAKE_CURRENT_SOURCE_DIR}/featuretree
-        ${CMAKE_CURRENT_SOURCE_DIR}/messages ${CMAKE_CURRENT_SOURCE_DIR}/network -ts ${ZVC_SOURCE_CATALOGUES}
+        ${CMAKE_CURRENT_SOURCE_DIR}/messages ${CMAKE_CURRENT_SOURCE_DIR}/network ${CMAKE_CURRENT_SOURCE_DIR}/camerasettings
+        -ts ${ZVC_SOURCE_CATALOGUES}
     WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}
     COMMENT "Updating the translation catalogues from the sources"
     VERBATIM)
