@@ -6,6 +6,7 @@
 // passes each restore needed.
 
 #include "benchmarkutil.h"
+#include "parametervaluetestsupport.h"
 
 #include "camerasettings/camerasettings.h"
 #include "simulateddevice.h"
@@ -23,26 +24,6 @@ using namespace ParameterCollection;
 namespace {
 
 const QString prefix = QStringLiteral("@CameraDevice/");
-
-//! Another value the parameter may take: the other limit, entry or truth.
-QString otherValue(const QSharedPointer<const ParameterData>& data)
-{
-    if (const auto* e = dynamic_cast<const EnumParameterData*>(data.data())) {
-        for (const QString& symbol : e->symbolicValues)
-            if (symbol != data->valueText)
-                return symbol;
-        return QString();
-    }
-    if (const auto* i = dynamic_cast<const IntegerParameterData*>(data.data()))
-        return QString::number(i->value == i->minimum ? i->maximum : i->minimum);
-    if (const auto* f = dynamic_cast<const FloatParameterData*>(data.data()))
-        return QString::number(f->value == f->minimum ? f->maximum : f->minimum, 'g', 17);
-    if (const auto* b = dynamic_cast<const BooleanParameterData*>(data.data()))
-        return b->value ? QStringLiteral("false") : QStringLiteral("true");
-    if (data->type == TypeString)
-        return data->valueText + QStringLiteral("x");
-    return QString();
-}
 
 } // namespace
 
@@ -139,7 +120,7 @@ int main(int argc, char** argv)
             const auto data = parameter->getParameterData();
             if (value.feature == lastBoolean || !data->writable)
                 continue;
-            const QString other = otherValue(data);
+            const QString other = ValueTest::otherValue(data);
             if (other.isEmpty())
                 continue;
             parameter->setValueFromString(other);

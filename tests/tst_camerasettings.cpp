@@ -9,6 +9,7 @@
 #include "parameters/iadvancedparameteraccess.h"
 #include "parameters/iparameter.h"
 #include "parameters/parameterdata.h"
+#include "parametervaluetestsupport.h"
 
 #include "simulatedcamera.h"
 
@@ -69,26 +70,6 @@ int selectedCount(const CameraSettings::Document& document, const QString& selec
     return n;
 }
 
-//! A value other than the current one that the camera may take: another entry, the other limit, the other truth.
-QString otherValue(const QSharedPointer<const ParameterData>& data)
-{
-    if (const auto* e = dynamic_cast<const EnumParameterData*>(data.data())) {
-        for (const QString& symbol : e->symbolicValues)
-            if (symbol != data->valueText)
-                return symbol;
-        return QString();
-    }
-    if (const auto* i = dynamic_cast<const IntegerParameterData*>(data.data()))
-        return QString::number(i->value == i->minimum ? i->maximum : i->minimum);
-    if (const auto* f = dynamic_cast<const FloatParameterData*>(data.data()))
-        return QString::number(f->value == f->minimum ? f->maximum : f->minimum, 'g', 17);
-    if (const auto* b = dynamic_cast<const BooleanParameterData*>(data.data()))
-        return b->value ? QStringLiteral("false") : QStringLiteral("true");
-    if (data->type == TypeString)
-        return data->valueText + QStringLiteral("x");
-    return QString();
-}
-
 /*!
  * Changes every value of the document that the camera lets change, selected
  * ones under their selector entry; gives the number changed.
@@ -104,7 +85,7 @@ int changeEverything(SimulatedCamera* camera, const CameraSettings::Document& do
             const auto data = p->getParameterData();
             if (!data->writable)
                 continue;
-            const QString other = otherValue(data);
+            const QString other = ValueTest::otherValue(data);
             if (other.isEmpty())
                 continue;
             p->setValueFromString(other);

@@ -350,8 +350,17 @@ void TestTranslations::restoreReportFollowsTheTranslator()
         const QString outcome = CameraSettings::outcomeText(CameraSettings::Refused);
         QCoreApplication::removeTranslator(&translator);
         QCOMPARE(translated.size(), untranslated.size());
-        if (language == QLatin1String("en"))
+        if (language == QLatin1String("en")) {
+            // English counts its passes in the singular and the plural.
+            QVERIFY2(translated.first().endsWith(QLatin1String("; 1 pass.")), qPrintable(translated.first()));
+            CameraSettings::Report three = report;
+            three.passes = 3;
+            QVERIFY(QCoreApplication::installTranslator(&translator));
+            const QString plural = three.toLines().first();
+            QCoreApplication::removeTranslator(&translator);
+            QVERIFY2(plural.endsWith(QLatin1String("; 3 passes.")), qPrintable(plural));
             continue;
+        }
         for (int i = 0; i < translated.size(); ++i)
             QVERIFY2(
                 translated.at(i) != untranslated.at(i), qPrintable(language + QLatin1String(": ") + translated.at(i)));

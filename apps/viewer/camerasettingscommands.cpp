@@ -70,29 +70,21 @@ bool CameraSettingsCommands::save(QWidget* parent, ViewerCamera* camera)
 
 bool CameraSettingsCommands::load(QWidget* parent, ViewerCamera* camera)
 {
-    const QString title = QCoreApplication::translate("CameraSettingsCommands", "Load Camera Settings");
-    if (!haveCamera(parent, camera, title))
-        return false;
-    const QString path = QFileDialog::getOpenFileName(parent, title, QString(), fileFilter());
+    QString path;
     CameraSettings::Document document;
-    if (path.isEmpty() || !readFile(parent, path, &document))
+    if (!pickAndRead(parent, camera, QCoreApplication::translate("CameraSettingsCommands", "Load Camera Settings"),
+            &path, &document))
         return false;
-    const CameraSettings::Report report = settingsFor(camera)->restore(document);
-    CameraSettingsReportDialog dialog(parent);
-    dialog.setObjectName(QStringLiteral("cameraSettingsReport"));
-    dialog.setReport(report, path);
-    dialog.exec();
+    showReport(parent, settingsFor(camera)->restore(document), path);
     return true;
 }
 
 bool CameraSettingsCommands::compare(QWidget* parent, ViewerCamera* camera)
 {
-    const QString title = QCoreApplication::translate("CameraSettingsCommands", "Compare With File");
-    if (!haveCamera(parent, camera, title))
-        return false;
-    const QString path = QFileDialog::getOpenFileName(parent, title, QString(), fileFilter());
+    QString path;
     CameraSettings::Document document;
-    if (path.isEmpty() || !readFile(parent, path, &document))
+    if (!pickAndRead(parent, camera, QCoreApplication::translate("CameraSettingsCommands", "Compare With File"), &path,
+            &document))
         return false;
     const std::unique_ptr<CameraSettings> settings = settingsFor(camera);
     CameraSettingsCompareDialog dialog(parent);
@@ -100,10 +92,23 @@ bool CameraSettingsCommands::compare(QWidget* parent, ViewerCamera* camera)
     dialog.setDifferences(settings->compare(document), path);
     if (dialog.exec() != QDialog::Accepted || dialog.checkedValues().isEmpty())
         return false;
-    const CameraSettings::Report report = settings->restoreSelected(document, dialog.checkedValues());
-    CameraSettingsReportDialog reportDialog(parent);
-    reportDialog.setObjectName(QStringLiteral("cameraSettingsReport"));
-    reportDialog.setReport(report, path);
-    reportDialog.exec();
+    showReport(parent, settings->restoreSelected(document, dialog.checkedValues()), path);
     return true;
+}
+
+bool CameraSettingsCommands::pickAndRead(
+    QWidget* parent, ViewerCamera* camera, const QString& title, QString* path, CameraSettings::Document* document)
+{
+    if (!haveCamera(parent, camera, title))
+        return false;
+    *path = QFileDialog::getOpenFileName(parent, title, QString(), fileFilter());
+    return !path->isEmpty() && readFile(parent, *path, document);
+}
+
+void CameraSettingsCommands::showReport(QWidget* parent, const CameraSettings::Report& report, const QString& path)
+{
+    CameraSettingsReportDialog dialog(parent);
+    dialog.setObjectName(QStringLiteral("cameraSettingsReport"));
+    dialog.setReport(report, path);
+    dialog.exec();
 }

@@ -27,4 +27,11 @@ public:
 
     //! Reads the file and warns in a message box if it is refused; false then.
     static bool readFile(QWidget* parent, const QString& path, CameraSettings::Document* document);
+
+private:
+    //! Checks that a camera is open, asks for a file and reads it; false if the user gave up or the file is refused.
+    static bool pickAndRead(
+        QWidget* parent, ViewerCamera* camera, const QString& title, QString* path, CameraSettings::Document* document);
+    //! Shows the report of a restore from the file at path, modally.
+    static void showReport(QWidget* parent, const CameraSettings::Report& report, const QString& path);
 };

@@ -357,15 +357,15 @@ QStringList CameraSettings::Report::toLines() const
 {
     QStringList lines;
     lines.append(CameraSettings::tr("%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, "
-                                    "%7 not reached; %8 passes.")
+                                    "%7 not reached; %n pass(es).",
+        nullptr, passes)
                      .arg(entries.size())
                      .arg(count(Written))
                      .arg(count(AlreadyEqual))
                      .arg(count(Refused))
                      .arg(count(NotPresent))
                      .arg(count(Locked))
-                     .arg(count(NotReached))
-                     .arg(passes));
+                     .arg(count(NotReached)));
     if (!sameModel)
         lines.append(
             CameraSettings::tr("The file was saved from a %1; this camera is a %2.").arg(fileModel, cameraModel));

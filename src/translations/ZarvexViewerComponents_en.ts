@@ -8,13 +8,16 @@
         <source>unspecified exception</source>
         <translation>unspecified exception</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <location line="+309"/>
-        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %8 passes.</source>
-        <translation>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %8 passes.</translation>
+        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %n pass(es).</source>
+        <translation>
+            <numerusform>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %n pass.</numerusform>
+            <numerusform>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %n passes.</numerusform>
+        </translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The file was saved from a %1; this camera is a %2.</source>
         <translation>The file was saved from a %1; this camera is a %2.</translation>
     </message>

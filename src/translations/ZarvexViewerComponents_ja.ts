@@ -8,13 +8,15 @@
         <source>unspecified exception</source>
         <translation>不明な例外</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <location line="+309"/>
-        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %8 passes.</source>
-        <translation>値 %1 個: 書き込み %2、既に同じ値 %3、拒否 %4、存在しない %5、ロック中 %6、未処理 %7。パス数 %8。</translation>
+        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %n pass(es).</source>
+        <translation>
+            <numerusform>値 %1 個: 書き込み %2、既に同じ値 %3、拒否 %4、存在しない %5、ロック中 %6、未処理 %7。パス数 %n。</numerusform>
+        </translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The file was saved from a %1; this camera is a %2.</source>
         <translation>ファイルは %1 から保存されたものです。このカメラは %2 です。</translation>
     </message>

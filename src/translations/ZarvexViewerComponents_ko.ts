@@ -8,13 +8,15 @@
         <source>unspecified exception</source>
         <translation>알 수 없는 예외</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <location line="+309"/>
-        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %8 passes.</source>
-        <translation>값 %1개: 기록 %2, 이미 같은 값 %3, 거부 %4, 없음 %5, 잠김 %6, 처리되지 않음 %7. 패스 %8회.</translation>
+        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %n pass(es).</source>
+        <translation>
+            <numerusform>값 %1개: 기록 %2, 이미 같은 값 %3, 거부 %4, 없음 %5, 잠김 %6, 처리되지 않음 %7. 패스 %n회.</numerusform>
+        </translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The file was saved from a %1; this camera is a %2.</source>
         <translation>파일은 %1에서 저장되었습니다. 이 카메라는 %2입니다.</translation>
     </message>

@@ -8,13 +8,15 @@
         <source>unspecified exception</source>
         <translation>未指定的异常</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <location line="+309"/>
-        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %8 passes.</source>
-        <translation>%1 个值：已写入 %2，已相同 %3，被拒绝 %4，不存在 %5，已锁定 %6，未处理 %7；共 %8 轮。</translation>
+        <source>%1 values: %2 written, %3 already equal, %4 refused, %5 not present, %6 locked, %7 not reached; %n pass(es).</source>
+        <translation>
+            <numerusform>%1 个值：已写入 %2，已相同 %3，被拒绝 %4，不存在 %5，已锁定 %6，未处理 %7；共 %n 轮。</numerusform>
+        </translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The file was saved from a %1; this camera is a %2.</source>
         <translation>文件保存自 %1；此相机是 %2。</translation>
     </message>
