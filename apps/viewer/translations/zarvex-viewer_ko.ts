@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+652"/>
+        <location filename="../viewermainwindow.cpp" line="+710"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex 뷰어</translation>
@@ -543,7 +543,7 @@
         <translation>정보(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-549"/>
+        <location filename="../viewermainwindow.cpp" line="-607"/>
         <source>Looking for cameras...</source>
         <translation>카메라를 찾는 중...</translation>
     </message>
@@ -585,12 +585,13 @@
         <translation>카메라를 열 수 없습니다: %1</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
+        <location line="+6"/>
         <source>The camera is gone: %1</source>
         <translation>카메라 연결이 끊어졌습니다: %1</translation>
     </message>
     <message>
-        <location line="+47"/>
+        <location line="+46"/>
         <source>Opened %1</source>
         <translation>%1을(를) 열었습니다</translation>
     </message>
@@ -605,12 +606,17 @@
         <translation>%1을(를) 실행할 수 없습니다.</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+15"/>
+        <source>The acquisition cannot start: %1</source>
+        <translation>수집을 시작할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <location line="+59"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 프레임, %2 fps, %3 손실</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+28"/>
         <source>x %1, y %2: %3</source>
         <translation>X %1, Y %2 위치의 값: %3</translation>
     </message>
@@ -635,7 +641,7 @@
         <translation>그림을 보려면 수집 시작(F7)을 누르십시오.</translation>
     </message>
     <message>
-        <location line="+97"/>
+        <location line="+98"/>
         <location line="+6"/>
         <source>Open Device Description</source>
         <translation>장치 설명 열기</translation>

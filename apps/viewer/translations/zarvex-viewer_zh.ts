@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+652"/>
+        <location filename="../viewermainwindow.cpp" line="+710"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex 查看器</translation>
@@ -543,7 +543,7 @@
         <translation>关于(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-549"/>
+        <location filename="../viewermainwindow.cpp" line="-607"/>
         <source>Looking for cameras...</source>
         <translation>正在查找相机...</translation>
     </message>
@@ -585,12 +585,13 @@
         <translation>无法打开相机: %1</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
+        <location line="+6"/>
         <source>The camera is gone: %1</source>
         <translation>相机已断开: %1</translation>
     </message>
     <message>
-        <location line="+47"/>
+        <location line="+46"/>
         <source>Opened %1</source>
         <translation>已打开 %1</translation>
     </message>
@@ -605,12 +606,17 @@
         <translation>无法执行 %1。</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+15"/>
+        <source>The acquisition cannot start: %1</source>
+        <translation>无法开始采集: %1</translation>
+    </message>
+    <message>
+        <location line="+59"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 帧，%2 fps，丢失 %3</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+28"/>
         <source>x %1, y %2: %3</source>
         <translation>x %1，y %2: %3</translation>
     </message>
@@ -635,7 +641,7 @@
         <translation>按“开始采集”(F7) 查看图像。</translation>
     </message>
     <message>
-        <location line="+97"/>
+        <location line="+98"/>
         <location line="+6"/>
         <source>Open Device Description</source>
         <translation>打开设备描述</translation>
