@@ -693,7 +693,8 @@ void TestViewer::editInProgressOutlivesTheLockOfAnAcquisition()
     QVERIFY(width.isValid());
     const QVariant writableColour = width.data(Qt::ForegroundRole);
 
-    const QModelIndex cell = tree->getFeatureExtension()->findItemByFullName(gain->getName(), nullptr, 1);
+    const QModelIndex cell
+        = tree->getFeatureExtension()->findItemByFullName(QStringLiteral("@CameraDevice/Gain"), nullptr, 1);
     QVERIFY(cell.isValid());
     expandTo(view, cell);
     view->scrollTo(cell);
