@@ -216,7 +216,9 @@ void TestViewerAravis::cameraLostMidStreamEndsTheAcquisition()
     QVERIFY2(m_window->statusBar()->currentMessage().startsWith(QLatin1String("The camera is gone: ")),
         qPrintable(m_window->statusBar()->currentMessage()));
     auto* stop = m_window->findChild<QAction*>(QStringLiteral("actionStopAcquisition"));
+    auto* start = m_window->findChild<QAction*>(QStringLiteral("actionStartAcquisition"));
     QVERIFY(!stop->isEnabled());
+    QVERIFY(!start->isEnabled()); // nothing to start on a camera that is gone
     // The last picture stays, and nothing more arrives.
     QCOMPARE(m_window->imagePane()->currentImage().size(), QSize(320, 240));
     const int paintedAtLoss = painted.count();

@@ -267,19 +267,23 @@ bool ViewerMainWindow::openCamera(int row)
     closeCamera();
     m_camera = camera;
     m_openRow = row;
+    m_cameraLost = false;
 
     auto* tree = new FeatureTreeWidget(QStringLiteral("zarvex-viewer"), camera->baseInfo(), ui->treeHolder);
     // The tree keeps its last values and stops asking a camera that is gone.
     connect(camera.data(), &ViewerCamera::lost, tree, [this, tree](const QString& reason) {
         tree->deviceIsClosed();
+        m_cameraLost = true;
         endAcquisition();
         statusBar()->showMessage(tr("The camera is gone: %1").arg(reason));
         updateActions();
     });
     // A stream of the camera's own stops by itself when the camera goes away mid-stream.
     connect(camera.data(), &ViewerCamera::streamStopped, this, [this](const QString& reason) {
+        m_cameraLost = true;
         endAcquisition();
         statusBar()->showMessage(tr("The camera is gone: %1").arg(reason));
+        updateActions();
     });
     tree->setObjectName(QStringLiteral("featureTree"));
     m_tree = tree;
@@ -586,7 +590,7 @@ void ViewerMainWindow::updateActions()
         ui->actionUnplug->setEnabled(m_camera->simulation()->isPlugged());
         ui->actionReplug->setEnabled(!m_camera->simulation()->isPlugged());
     }
-    const bool canAcquire = open && m_camera->hasImages()
+    const bool canAcquire = open && !m_cameraLost && m_camera->hasImages()
         && (m_camera->hasStream() || cameraParameter(QStringLiteral("AcquisitionStart")));
     ui->actionStartAcquisition->setEnabled(canAcquire && !m_acquiring);
     ui->actionStopAcquisition->setEnabled(open && m_acquiring);
@@ -803,8 +807,10 @@ void ViewerMainWindow::on_actionUnplug_triggered()
 
 void ViewerMainWindow::on_actionReplug_triggered()
 {
-    if (m_camera && m_camera->simulation())
+    if (m_camera && m_camera->simulation()) {
         m_camera->simulation()->replug();
+        m_cameraLost = false;
+    }
     if (m_tree) {
         // Undoes the deviceIsClosed() that the camera's loss brought.
         m_tree->getFeatureExtension()->SetDeviceAlive(true);

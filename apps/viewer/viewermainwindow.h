@@ -163,6 +163,7 @@ private:
     QLabel* m_framesLabel = nullptr;
     QTimer* m_statisticsTimer = nullptr;
     bool m_acquiring = false;
+    bool m_cameraLost = false; //!< the open camera went away; a simulated one comes back with Replug
     QElapsedTimer m_rateClock;
     QVector<QPair<qint64, quint64>> m_rateSamples; //!< (milliseconds, frames received) of a stream's last second
     QPointer<FeatureTreeWidget> m_tree;

@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+710"/>
+        <location filename="../viewermainwindow.cpp" line="+712"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex Viewer</translation>
@@ -543,7 +543,7 @@
         <translation>&amp;About</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-607"/>
+        <location filename="../viewermainwindow.cpp" line="-609"/>
         <source>Looking for cameras...</source>
         <translation>Looking for cameras...</translation>
     </message>
@@ -586,13 +586,13 @@
         <translation>The camera cannot be opened: %1</translation>
     </message>
     <message>
-        <location line="+12"/>
-        <location line="+6"/>
+        <location line="+14"/>
+        <location line="+7"/>
         <source>The camera is gone: %1</source>
         <translation>The camera is gone: %1</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+47"/>
         <source>Opened %1</source>
         <translation>Opened %1</translation>
     </message>
@@ -612,12 +612,12 @@
         <translation>The acquisition cannot start: %1</translation>
     </message>
     <message>
-        <location line="+59"/>
+        <location line="+60"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 frames, %2 fps, %3 lost</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
         <source>x %1, y %2: %3</source>
         <translation>x %1, y %2: %3</translation>
     </message>
@@ -723,7 +723,7 @@
         <translation>The camera is unplugged</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>The camera is plugged in again</source>
         <translation>The camera is plugged in again</translation>
     </message>
@@ -787,7 +787,7 @@
         <translation>cannot write %1</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+38"/>
         <source>no camera could be opened</source>
         <translation>no camera could be opened</translation>
     </message>

@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+710"/>
+        <location filename="../viewermainwindow.cpp" line="+712"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex 뷰어</translation>
@@ -543,7 +543,7 @@
         <translation>정보(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-607"/>
+        <location filename="../viewermainwindow.cpp" line="-609"/>
         <source>Looking for cameras...</source>
         <translation>카메라를 찾는 중...</translation>
     </message>
@@ -585,13 +585,13 @@
         <translation>카메라를 열 수 없습니다: %1</translation>
     </message>
     <message>
-        <location line="+12"/>
-        <location line="+6"/>
+        <location line="+14"/>
+        <location line="+7"/>
         <source>The camera is gone: %1</source>
         <translation>카메라 연결이 끊어졌습니다: %1</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+47"/>
         <source>Opened %1</source>
         <translation>%1을(를) 열었습니다</translation>
     </message>
@@ -611,12 +611,12 @@
         <translation>수집을 시작할 수 없습니다: %1</translation>
     </message>
     <message>
-        <location line="+59"/>
+        <location line="+60"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 프레임, %2 fps, %3 손실</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
         <source>x %1, y %2: %3</source>
         <translation>X %1, Y %2 위치의 값: %3</translation>
     </message>
@@ -721,7 +721,7 @@
         <translation>카메라가 분리되었습니다</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>The camera is plugged in again</source>
         <translation>카메라가 다시 연결되었습니다</translation>
     </message>
@@ -785,7 +785,7 @@
         <translation>%1을(를) 쓸 수 없습니다</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+38"/>
         <source>no camera could be opened</source>
         <translation>카메라를 열 수 없습니다</translation>
     </message>

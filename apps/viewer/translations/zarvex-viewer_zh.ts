@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+710"/>
+        <location filename="../viewermainwindow.cpp" line="+712"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex 查看器</translation>
@@ -543,7 +543,7 @@
         <translation>关于(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-607"/>
+        <location filename="../viewermainwindow.cpp" line="-609"/>
         <source>Looking for cameras...</source>
         <translation>正在查找相机...</translation>
     </message>
@@ -585,13 +585,13 @@
         <translation>无法打开相机: %1</translation>
     </message>
     <message>
-        <location line="+12"/>
-        <location line="+6"/>
+        <location line="+14"/>
+        <location line="+7"/>
         <source>The camera is gone: %1</source>
         <translation>相机已断开: %1</translation>
     </message>
     <message>
-        <location line="+46"/>
+        <location line="+47"/>
         <source>Opened %1</source>
         <translation>已打开 %1</translation>
     </message>
@@ -611,12 +611,12 @@
         <translation>无法开始采集: %1</translation>
     </message>
     <message>
-        <location line="+59"/>
+        <location line="+60"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 帧，%2 fps，丢失 %3</translation>
     </message>
     <message>
-        <location line="+28"/>
+        <location line="+25"/>
         <source>x %1, y %2: %3</source>
         <translation>x %1，y %2: %3</translation>
     </message>
@@ -721,7 +721,7 @@
         <translation>相机已拔出</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>The camera is plugged in again</source>
         <translation>相机已重新插入</translation>
     </message>
@@ -785,7 +785,7 @@
         <translation>无法写入 %1</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+38"/>
         <source>no camera could be opened</source>
         <translation>无法打开任何相机</translation>
     </message>
