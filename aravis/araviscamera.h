@@ -64,6 +64,8 @@ struct NodeMapEntry
  * Make it and use it on the GUI thread, where the tree reads its node maps;
  * only listCameras() may also run on another thread. The node maps hold the
  * device themselves, so they outlive this object.
+ *
+ * The camera's images come through an AravisStream made from it.
  */
 class ZVC_ARAVIS_EXPORT AravisCamera : public QObject
 {
@@ -112,6 +114,9 @@ signals:
     void lost(const QString& reason);
 
 private:
+    // The stream of a camera opens on the camera's own device.
+    friend class AravisStream;
+
     explicit AravisCamera(QSharedPointer<AravisDevice> device);
 
     QSharedPointer<AravisDevice> m_device;

@@ -1,4 +1,11 @@
+/*!
+ * \file aravis/aravisframe.h
+ * Aravis::AravisFrame, one image of a camera's stream, sharing the stream's
+ * buffer until the last copy of it goes.
+ */
 #pragma once
+
+#include "zarvexaravis_export.h"
 
 #include <QByteArray>
 #include <QMetaType>
@@ -31,7 +38,7 @@ namespace Aravis {
  *     frame.bytesPerLine(), QImage::Format_Grayscale8);
  * \endcode
  */
-class AravisFrame
+class ZVC_ARAVIS_EXPORT AravisFrame
 {
 public:
     //! A null frame: no bytes, no size.

@@ -2,6 +2,7 @@
 
 #include "aravisstream.h"
 
+#include "araviscamera.h"
 #include "aravisdevice.h"
 #include "aravisnodemap.h"
 
@@ -82,6 +83,11 @@ AravisStream::AravisStream(QSharedPointer<AravisDevice> device, QObject* parent)
     , m_device(std::move(device))
 {
     qRegisterMetaType<Aravis::AravisFrame>();
+}
+
+AravisStream::AravisStream(const AravisCamera& camera, QObject* parent)
+    : AravisStream(camera.m_device, parent)
+{
 }
 
 AravisStream::~AravisStream()

@@ -1,6 +1,12 @@
+/*!
+ * \file aravis/aravisstream.h
+ * Aravis::AravisStream, the images of a camera opened through Aravis, handed
+ * to the thread of the widgets.
+ */
 #pragma once
 
 #include "aravisframe.h"
+#include "zarvexaravis_export.h"
 
 #include <QObject>
 #include <QSharedPointer>
@@ -10,6 +16,7 @@
 
 namespace Aravis {
 
+class AravisCamera;
 class AravisDevice;
 
 /*!
@@ -28,7 +35,7 @@ class AravisDevice;
  *
  * To show a camera's images:
  * \code
- * auto* stream = new Aravis::AravisStream(device, window);
+ * auto* stream = new Aravis::AravisStream(*camera, window); // camera from Aravis::AravisCamera::open()
  * connect(stream, &Aravis::AravisStream::frameReady, pane, &ImagePane::showFrame); // keeps the frame until the next
  * connect(stream, &Aravis::AravisStream::stopped, window, &Window::onStreamStopped);
  * if (!stream->start())
@@ -47,7 +54,7 @@ class AravisDevice;
  * more, and emits stopped() with the reason. Frames already handed out stay
  * valid.
  */
-class AravisStream : public QObject
+class ZVC_ARAVIS_EXPORT AravisStream : public QObject
 {
     Q_OBJECT
 
@@ -69,8 +76,15 @@ public:
         double completedShare() const { return received() ? double(completed) / double(received()) : 1.0; }
     };
 
-    //! A stream of the camera; nothing starts before start().
+    /*!
+     * A stream of the camera; nothing starts before start(). The stream holds
+     * the camera's device itself, so it may outlive the AravisCamera object.
+     */
+    explicit AravisStream(const AravisCamera& camera, QObject* parent = nullptr);
+    //! \cond
+    // For this library's own tools and tests, which open the device directly.
     explicit AravisStream(QSharedPointer<AravisDevice> device, QObject* parent = nullptr);
+    //! \endcond
     //! Stops the stream if it runs.
     ~AravisStream() override;
 

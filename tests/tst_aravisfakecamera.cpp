@@ -7,7 +7,7 @@
 
 #include "aravisdevice.h"
 #include "aravisnodemap.h"
-#include "fakegigecamera.h"
+#include "fakecameratestsupport.h"
 
 #include "featuretreewidgettestsupport.h"
 
@@ -27,21 +27,6 @@
 
 using namespace ParameterCollection;
 
-namespace {
-
-// Counts the skips, so that main() can tell a run that could not reach a
-// camera from one that passed.
-int skippedWithoutCamera = 0;
-constexpr int skippedExitCode = 77;
-
-} // namespace
-
-#define SKIP_WITHOUT_CAMERA(message)                                                                                   \
-    do {                                                                                                               \
-        ++skippedWithoutCamera;                                                                                        \
-        QSKIP(message);                                                                                                \
-    } while (false)
-
 class TestAravisFakeCamera : public QObject
 {
     Q_OBJECT
@@ -54,9 +39,6 @@ private slots:
     void editInTheWidgetAndLose();
     void settingsRoundTrip_data();
     void settingsRoundTrip();
-
-private:
-    QString m_busy; //!< why the loopback interface can't be ours, or empty
 };
 
 namespace {
@@ -83,13 +65,7 @@ QModelIndex valueIndex(const FeatureTreeModel& model, const QString& fullName)
 
 void TestAravisFakeCamera::initTestCase()
 {
-    // Fake cameras share the GigE Vision port: with another one already
-    // answering on loopback, ours couldn't be told apart from it.
-    for (const Aravis::DeviceInfo& info : Aravis::AravisDevice::listDevices()) {
-        if (info.protocol == QLatin1String("GigEVision") && info.address.startsWith(QLatin1String("127.")))
-            m_busy = QStringLiteral("another GigE Vision device (%1) already answers on the loopback interface")
-                         .arg(info.id);
-    }
+    FakeCameraTestSupport::loopbackBusyReason(); // before any camera of ours answers
 }
 
 void TestAravisFakeCamera::cleanupTestCase()
@@ -116,22 +92,18 @@ void TestAravisFakeCamera::openFillWritePollAndLose()
     QFETCH(QString, genicamFile);
     QFETCH(QString, gain);
     QFETCH(QString, exposureTime);
-    if (!m_busy.isEmpty())
-        SKIP_WITHOUT_CAMERA(qPrintable(m_busy));
     const QString serial = QStringLiteral("ZVC%1%2")
                                .arg(QCoreApplication::applicationPid())
                                .arg(QTest::currentDataTag()[0] == 'A' ? 'A' : 'Z');
-    Aravis::FakeGigECamera camera(serial, QStringLiteral("lo"), genicamFile);
-    if (!camera.isRunning())
-        SKIP_WITHOUT_CAMERA(qPrintable(camera.errorString()));
+    // Mostly Aravis's look-up that finds the camera; starting it adds little.
     QElapsedTimer discovery;
     discovery.start();
-    const QString deviceId = camera.findDeviceId();
+    FakeCameraTestSupport::FakeCamera fake = FakeCameraTestSupport::startFakeCamera(serial, genicamFile);
     const qint64 discoveryMs = discovery.elapsed();
-    if (deviceId.isEmpty())
-        SKIP_WITHOUT_CAMERA(qPrintable(QStringLiteral("Aravis's fake GigE Vision camera %1 runs on lo, but "
-                                                      "arv_update_device_list() does not find it")
-                                           .arg(serial)));
+    if (!fake.skipReason.isEmpty())
+        SKIP_WITHOUT_CAMERA(qPrintable(fake.skipReason));
+    Aravis::FakeGigECamera& camera = *fake.camera;
+    const QString deviceId = fake.deviceId;
 
     QElapsedTimer clock;
     clock.start();
@@ -248,16 +220,12 @@ void TestAravisFakeCamera::openFillWritePollAndLose()
 // camera lost while polling runs.
 void TestAravisFakeCamera::editInTheWidgetAndLose()
 {
-    if (!m_busy.isEmpty())
-        SKIP_WITHOUT_CAMERA(qPrintable(m_busy));
     const QString serial = QStringLiteral("ZVC%1W").arg(QCoreApplication::applicationPid());
-    Aravis::FakeGigECamera camera(serial, QStringLiteral("lo"), QString());
-    if (!camera.isRunning())
-        SKIP_WITHOUT_CAMERA(qPrintable(camera.errorString()));
-    const QString deviceId = camera.findDeviceId();
-    if (deviceId.isEmpty())
-        SKIP_WITHOUT_CAMERA(
-            qPrintable(QStringLiteral("arv_update_device_list() does not find the fake camera %1").arg(serial)));
+    FakeCameraTestSupport::FakeCamera fake = FakeCameraTestSupport::startFakeCamera(serial);
+    if (!fake.skipReason.isEmpty())
+        SKIP_WITHOUT_CAMERA(qPrintable(fake.skipReason));
+    Aravis::FakeGigECamera& camera = *fake.camera;
+    const QString deviceId = fake.deviceId;
     QString error;
     QSharedPointer<Aravis::AravisDevice> device = Aravis::AravisDevice::open(deviceId, &error);
     QVERIFY2(device, qPrintable(error));
@@ -320,17 +288,13 @@ void TestAravisFakeCamera::settingsRoundTrip_data()
 void TestAravisFakeCamera::settingsRoundTrip()
 {
     QFETCH(QString, genicamFile);
-    if (!m_busy.isEmpty())
-        SKIP_WITHOUT_CAMERA(qPrintable(m_busy));
     const QString serial = QStringLiteral("ZVS%1%2")
                                .arg(QCoreApplication::applicationPid())
                                .arg(QTest::currentDataTag()[0] == 'A' ? 'A' : 'Z');
-    Aravis::FakeGigECamera camera(serial, QStringLiteral("lo"), genicamFile);
-    if (!camera.isRunning())
-        SKIP_WITHOUT_CAMERA(qPrintable(camera.errorString()));
-    const QString deviceId = camera.findDeviceId();
-    if (deviceId.isEmpty())
-        SKIP_WITHOUT_CAMERA(qPrintable(QStringLiteral("the fake camera %1 is not found").arg(serial)));
+    FakeCameraTestSupport::FakeCamera fake = FakeCameraTestSupport::startFakeCamera(serial, genicamFile);
+    if (!fake.skipReason.isEmpty())
+        SKIP_WITHOUT_CAMERA(qPrintable(fake.skipReason));
+    const QString deviceId = fake.deviceId;
     QString error;
     QSharedPointer<Aravis::AravisDevice> device = Aravis::AravisDevice::open(deviceId, &error);
     QVERIFY2(device, qPrintable(error));
@@ -396,6 +360,6 @@ int main(int argc, char** argv)
     QTEST_SET_MAIN_SOURCE_PATH
     TestAravisFakeCamera test;
     const int failures = QTest::qExec(&test, argc, argv);
-    return failures == 0 && skippedWithoutCamera > 0 ? skippedExitCode : failures;
+    return FakeCameraTestSupport::exitCode(failures);
 }
 #include "tst_aravisfakecamera.moc"

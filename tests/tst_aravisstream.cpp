@@ -12,7 +12,7 @@
 #include "aravisframe.h"
 #include "aravisnodemap.h"
 #include "aravisstream.h"
-#include "fakegigecamera.h"
+#include "fakecameratestsupport.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -22,9 +22,6 @@
 #include <memory>
 
 namespace {
-
-int skippedWithoutCamera = 0;
-constexpr int skippedExitCode = 77;
 
 //! A receiver as an image pane is one: it keeps the frame it shows until the next comes.
 class Pane : public QObject
@@ -70,12 +67,6 @@ public:
 
 } // namespace
 
-#define SKIP_WITHOUT_CAMERA(message)                                                                                   \
-    do {                                                                                                               \
-        ++skippedWithoutCamera;                                                                                        \
-        QSKIP(message);                                                                                                \
-    } while (false)
-
 class TestAravisStream : public QObject
 {
     Q_OBJECT
@@ -94,11 +85,8 @@ private slots:
     void pixelFormatNames();
 
 private:
-    //! Starts the fake camera and opens it; false (with a skip or a failure recorded) when it can't.
-    bool openCamera();
     void setFormat(int width, int height, double framesPerSecond);
 
-    QString m_busy;
     std::unique_ptr<Aravis::FakeGigECamera> m_camera;
     QSharedPointer<Aravis::AravisDevice> m_device;
     int m_serial = 0;
@@ -106,11 +94,7 @@ private:
 
 void TestAravisStream::initTestCase()
 {
-    for (const Aravis::DeviceInfo& info : Aravis::AravisDevice::listDevices()) {
-        if (info.protocol == QLatin1String("GigEVision") && info.address.startsWith(QLatin1String("127.")))
-            m_busy = QStringLiteral("another GigE Vision device (%1) already answers on the loopback interface")
-                         .arg(info.id);
-    }
+    FakeCameraTestSupport::loopbackBusyReason(); // before any camera of ours answers
 }
 
 void TestAravisStream::cleanupTestCase()
@@ -123,16 +107,12 @@ void TestAravisStream::init()
     // Each test on a camera of its own: one that a test stopped doesn't come back.
     if (QByteArray(QTest::currentTestFunction()) == "pixelFormatNames")
         return;
-    if (!m_busy.isEmpty())
-        SKIP_WITHOUT_CAMERA(qPrintable(m_busy));
     const QString serial = QStringLiteral("ZVS%1N%2").arg(QCoreApplication::applicationPid()).arg(++m_serial);
-    m_camera.reset(new Aravis::FakeGigECamera(serial));
-    if (!m_camera->isRunning())
-        SKIP_WITHOUT_CAMERA(qPrintable(m_camera->errorString()));
-    const QString id = m_camera->findDeviceId();
-    if (id.isEmpty())
-        SKIP_WITHOUT_CAMERA(
-            qPrintable(QStringLiteral("arv_update_device_list() does not find the fake camera %1").arg(serial)));
+    FakeCameraTestSupport::FakeCamera fake = FakeCameraTestSupport::startFakeCamera(serial);
+    if (!fake.skipReason.isEmpty())
+        SKIP_WITHOUT_CAMERA(qPrintable(fake.skipReason));
+    m_camera = std::move(fake.camera);
+    const QString id = fake.deviceId;
     QString error;
     m_device = Aravis::AravisDevice::open(id, &error);
     QVERIFY2(m_device, qPrintable(error));
@@ -344,7 +324,7 @@ int main(int argc, char** argv)
     QTEST_SET_MAIN_SOURCE_PATH
     TestAravisStream test;
     const int failures = QTest::qExec(&test, argc, argv);
-    return failures == 0 && skippedWithoutCamera > 0 ? skippedExitCode : failures;
+    return FakeCameraTestSupport::exitCode(failures);
 }
 
 #include "tst_aravisstream.moc"

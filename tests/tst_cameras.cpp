@@ -7,6 +7,9 @@
 #include "simulatedcamera.h"
 #ifdef ZVC_WITH_ARAVIS
 #include "araviscamera.h"
+#include "aravisframe.h"
+#include "aravisstream.h"
+#include "fakecameraprocesstestsupport.h"
 #endif
 
 #include "featuretree/featuretreemodel.h"
@@ -15,7 +18,6 @@
 #include "parameters/iparametercollection.h"
 
 #include <QAbstractProxyModel>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTreeView>
 #include <QtTest>
@@ -35,6 +37,7 @@ private slots:
     void failingWritesAndChangesOnTheDevice();
     void treeShowsTheCameraAndTakesItsLoss();
     void aravisCameraOpensByIdAndIsLost();
+    void aravisStreamOfTheCameraDeliversFrames();
 };
 
 void TestCameras::defaultCameraHandsOverItsNodeMaps_data()
@@ -168,22 +171,11 @@ void TestCameras::aravisCameraOpensByIdAndIsLost()
     QSKIP("built without Aravis");
 #else
     // Aravis's fake camera in a process of its own, on the loopback interface.
-    const QString serial = QStringLiteral("ZVCC%1").arg(QCoreApplication::applicationPid());
-    QProcess fake;
-    fake.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    fake.start(QStringLiteral(ZVC_FAKE_CAMERA_EXECUTABLE), { QStringLiteral("--serial"), serial });
-    QVERIFY(fake.waitForStarted());
-    QString id;
-    for (int attempt = 0; attempt < 5 && id.isEmpty() && fake.state() == QProcess::Running; ++attempt) {
-        for (const Aravis::CameraInfo& info : Aravis::AravisCamera::listCameras())
-            if (info.serialNumber == serial && info.protocol == QLatin1String("GigEVision"))
-                id = info.id;
-    }
-    if (id.isEmpty()) {
-        fake.kill();
-        fake.waitForFinished();
-        QSKIP("Aravis's fake GigE Vision camera can't be reached on the loopback interface here");
-    }
+    FakeCameraTestSupport::FakeCameraProcess fake(QStringLiteral("ZVCC%1").arg(QCoreApplication::applicationPid()));
+    if (!fake.skipReason().isEmpty())
+        QSKIP(qPrintable(fake.skipReason()));
+    const QString id = fake.id();
+    const QString serial = fake.serialNumber();
 
     QString error;
     QVERIFY(!Aravis::AravisCamera::open(QStringLiteral("no such camera"), &error));
@@ -205,7 +197,6 @@ void TestCameras::aravisCameraOpensByIdAndIsLost()
     // The camera goes away: the next poll finds out, and the camera says so once, from the event loop.
     QSignalSpy lost(camera.get(), &Aravis::AravisCamera::lost);
     fake.kill();
-    fake.waitForFinished();
     QTRY_VERIFY_WITH_TIMEOUT(
         [&] {
             try {
@@ -220,6 +211,60 @@ void TestCameras::aravisCameraOpensByIdAndIsLost()
     QVERIFY(width->isZombie());
     QTest::qWait(50);
     QCOMPARE(lost.count(), 1);
+#endif
+}
+
+// A host that has only the public camera streams its images through an
+// AravisStream made from it; the stream and its frames outlive the camera object.
+void TestCameras::aravisStreamOfTheCameraDeliversFrames()
+{
+#ifndef ZVC_WITH_ARAVIS
+    QSKIP("built without Aravis");
+#else
+    FakeCameraTestSupport::FakeCameraProcess fake(QStringLiteral("ZVCS%1").arg(QCoreApplication::applicationPid()));
+    if (!fake.skipReason().isEmpty())
+        QSKIP(qPrintable(fake.skipReason()));
+    QString error;
+    auto camera = Aravis::AravisCamera::open(fake.id(), &error);
+    QVERIFY2(camera, qPrintable(error));
+    const auto map = camera->nodeMap(QStringLiteral("@CameraDevice"));
+    QVERIFY(map);
+    map->getParameter(QStringLiteral("Width"))->setValueFromString(QStringLiteral("320"));
+    map->getParameter(QStringLiteral("Height"))->setValueFromString(QStringLiteral("240"));
+    map->getParameter(QStringLiteral("PixelFormat"))->setValueFromString(QStringLiteral("Mono8"));
+
+    auto stream = std::make_unique<Aravis::AravisStream>(*camera);
+    Aravis::AravisFrame shown;
+    int frames = 0;
+    connect(stream.get(), &Aravis::AravisStream::frameReady, this, [&](const Aravis::AravisFrame& frame) {
+        shown = frame;
+        ++frames;
+    });
+    QSignalSpy stopped(stream.get(), &Aravis::AravisStream::stopped);
+    QVERIFY(!stream->isRunning());
+    QVERIFY2(stream->start(), qPrintable(stream->errorString()));
+    QTRY_VERIFY_WITH_TIMEOUT(frames >= 3, 10000);
+    QCOMPARE(shown.width(), 320);
+    QCOMPARE(shown.height(), 240);
+    QCOMPARE(shown.pixelFormat(), QStringLiteral("Mono8"));
+    QVERIFY(shown.bytesPerLine() >= 320);
+    QVERIFY(shown.size() >= qint64(shown.bytesPerLine()) * 240);
+    QVERIFY(shown.frameId() > 0);
+
+    // The camera object goes; the stream holds the device and keeps streaming.
+    camera.reset();
+    const int before = frames;
+    QTRY_VERIFY_WITH_TIMEOUT(frames >= before + 3, 10000);
+    stream->stop();
+    QVERIFY(!stream->isRunning());
+    const Aravis::AravisStream::Statistics counts = stream->statistics();
+    QCOMPARE(counts.delivered, quint64(frames));
+    QVERIFY(counts.completed >= counts.delivered);
+    QCOMPARE(stopped.count(), 0);
+    // The last frame stays whole after the stream is gone.
+    const QByteArray copy(shown.data(), int(shown.size()));
+    stream.reset();
+    QCOMPARE(QByteArray(shown.data(), int(shown.size())), copy);
 #endif
 }
 

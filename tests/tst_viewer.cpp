@@ -13,6 +13,9 @@
 #include "featuretree/featuretreewidget.h"
 #include "featuretree/ifeaturetreemodelextension.h"
 #include "network/ipaddresswidget.h"
+#include "parameters/ifloatparameter.h"
+#include "parameters/iintegerparameter.h"
+#include "parameters/iparametercollection.h"
 #include "simulatedcamera.h"
 
 #include <QAction>
@@ -135,6 +138,7 @@ private slots:
     void acquisitionShowsFramesAndCountsThem();
     void keyboardStartsAndStopsTheAcquisition();
     void payloadFeaturesAreLockedInTheTreeWhileAcquiring();
+    void editInProgressOutlivesTheLockOfAnAcquisition();
     void wheelZoomsAroundTheCursor();
     void fitAndActualSize();
     void pixelUnderTheCursorIsInTheStatusBar();
@@ -665,6 +669,72 @@ void TestViewer::payloadFeaturesAreLockedInTheTreeWhileAcquiring()
     QCOMPARE(tree->treeView()->indexWidget(width), editor.data());
     QCOMPARE(width.data(Qt::ForegroundRole), writableColour);
     QVERIFY(paints.count < 50);
+}
+
+// The lock that an acquisition brings changes the access of several features
+// at once; an edit under way in the tree on a feature it doesn't lock, typed
+// and not yet committed, goes on in the same editor, its text intact, and
+// commits afterwards as usual.
+void TestViewer::editInProgressOutlivesTheLockOfAnAcquisition()
+{
+    QVERIFY(m_window->openCamera(0));
+    FeatureTreeWidget* tree = m_window->featureTree();
+    QTreeView* view = tree->treeView();
+    const auto map = m_window->camera()->nodeMap(QStringLiteral("@CameraDevice"));
+    const auto gain
+        = map->getParameter(QStringLiteral("@CameraDevice/Gain")).dynamicCast<ParameterCollection::IFloatParameter>();
+    const auto locked = map->getParameter(QStringLiteral("@CameraDevice/TLParamsLocked"))
+                            .dynamicCast<ParameterCollection::IIntegerParameter>();
+    QVERIFY(gain && locked);
+    QCOMPARE(locked->getValue(), 0);
+    const double gainBefore = gain->getValue();
+    const QModelIndex width
+        = tree->getFeatureExtension()->findItemByFullName(QStringLiteral("@CameraDevice/Width"), nullptr, 1);
+    QVERIFY(width.isValid());
+    const QVariant writableColour = width.data(Qt::ForegroundRole);
+
+    const QModelIndex cell
+        = tree->getFeatureExtension()->findItemByFullName(QStringLiteral("@CameraDevice/Gain"), nullptr, 1);
+    QVERIFY(cell.isValid());
+    expandTo(view, cell);
+    view->scrollTo(cell);
+    QApplication::setActiveWindow(m_window.get());
+    view->setFocus();
+    view->setCurrentIndex(cell);
+    QTest::keyClick(view, Qt::Key_F2);
+    auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (!line && view->indexWidget(cell))
+        line = view->indexWidget(cell)->findChild<QLineEdit*>();
+    QVERIFY(line);
+    const QPointer<QLineEdit> editor = line;
+    const QPointer<QWidget> cellWidget = view->indexWidget(cell);
+    editor->setFocus();
+    editor->selectAll();
+    QTest::keyClicks(editor, QStringLiteral("7.25"));
+    const QString typed = editor->text();
+    QVERIFY2(typed.contains(QLatin1String("7.25")), qPrintable(typed));
+
+    QVERIFY(m_window->startAcquisition());
+    QCOMPARE(locked->getValue(), 1);
+    // The tree shows the lock: Width turns read-only.
+    QTRY_VERIFY(width.data(Qt::ForegroundRole) != writableColour);
+    // Frames arrive and the tree follows the camera meanwhile; the edit stays as typed.
+    QSignalSpy painted(m_window.get(), &ViewerMainWindow::framePainted);
+    QVERIFY(painted.wait(3000));
+    QTest::qWait(300);
+    QVERIFY2(editor, "the editor was destroyed");
+    QCOMPARE(view->indexWidget(cell), cellWidget.data());
+    QCOMPARE(editor->text(), typed);
+    QVERIFY(editor->isEnabled());
+    QVERIFY(editor->hasFocus());
+    QCOMPARE(gain->getValue(), gainBefore); // nothing written before the commit
+
+    // The edit commits as any other, while the lock holds.
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_COMPARE(gain->getValue(), 7.25);
+    QVERIFY(m_window->stopAcquisition());
+    QCOMPARE(locked->getValue(), 0);
+    QTRY_COMPARE(width.data(Qt::ForegroundRole), writableColour);
 }
 
 void TestViewer::wheelZoomsAroundTheCursor()

@@ -133,7 +133,14 @@ int showWindow(const QCommandLineParser& parser, const QCommandLineOption& devic
         }
     });
     const auto whenOpen = [&window, &shooting, shoot] {
-        window.selectFeature(QStringLiteral("@CameraDevice/ExposureTime"));
+        // The exposure time shows in the feature pane; a camera whose document
+        // has none at the user level shown (Aravis's fake camera calls its own
+        // ExposureTimeAbs and shows it to experts) shows its Width.
+        for (const QString& name :
+            { QStringLiteral("ExposureTime"), QStringLiteral("ExposureTimeAbs"), QStringLiteral("Width") }) {
+            if (window.selectFeature(QStringLiteral("@CameraDevice/") + name))
+                break;
+        }
         if (window.camera()->hasImages()) {
             window.startAcquisition();
         } else if (!shooting) {

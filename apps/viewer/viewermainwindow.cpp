@@ -267,11 +267,21 @@ bool ViewerMainWindow::openCamera(int row)
     closeCamera();
     m_camera = camera;
     m_openRow = row;
+    m_cameraLost = false;
 
     auto* tree = new FeatureTreeWidget(QStringLiteral("zarvex-viewer"), camera->baseInfo(), ui->treeHolder);
     // The tree keeps its last values and stops asking a camera that is gone.
     connect(camera.data(), &ViewerCamera::lost, tree, [this, tree](const QString& reason) {
         tree->deviceIsClosed();
+        m_cameraLost = true;
+        endAcquisition();
+        statusBar()->showMessage(tr("The camera is gone: %1").arg(reason));
+        updateActions();
+    });
+    // A stream of the camera's own stops by itself when the camera goes away mid-stream.
+    connect(camera.data(), &ViewerCamera::streamStopped, this, [this](const QString& reason) {
+        m_cameraLost = true;
+        endAcquisition();
         statusBar()->showMessage(tr("The camera is gone: %1").arg(reason));
         updateActions();
     });
@@ -406,8 +416,17 @@ bool ViewerMainWindow::startAcquisition()
     if (!m_camera || m_acquiring)
         return false;
     ui->imagePane->resetStatistics();
-    if (!runCommand(QStringLiteral("AcquisitionStart")))
+    m_rateSamples.clear();
+    if (m_camera->hasStream()) {
+        // The stream runs the camera's AcquisitionStart itself, once its buffers are ready.
+        QString error;
+        if (!m_camera->startStream(&error)) {
+            statusBar()->showMessage(tr("The acquisition cannot start: %1").arg(error));
+            return false;
+        }
+    } else if (!runCommand(QStringLiteral("AcquisitionStart"))) {
         return false;
+    }
     m_acquiring = true;
     m_statisticsTimer->start();
     updateFrameStatistics();
@@ -420,13 +439,26 @@ bool ViewerMainWindow::stopAcquisition()
 {
     if (!m_camera || !m_acquiring)
         return false;
-    runCommand(QStringLiteral("AcquisitionStop"));
+    if (m_camera->hasStream())
+        m_camera->stopStream();
+    else
+        runCommand(QStringLiteral("AcquisitionStop"));
+    endAcquisition();
+    return true;
+}
+
+void ViewerMainWindow::endAcquisition()
+{
+    if (!m_acquiring)
+        return;
+    // A stream that stopped by itself has nothing left to stop; one still running goes now.
+    if (m_camera && m_camera->isStreaming())
+        m_camera->stopStream();
     m_acquiring = false;
     m_statisticsTimer->stop();
     updateFrameStatistics();
     updatePlaceholder();
     updateActions();
-    return true;
 }
 
 void ViewerMainWindow::updateFrameStatistics()
@@ -435,11 +467,38 @@ void ViewerMainWindow::updateFrameStatistics()
         m_framesLabel->clear();
         return;
     }
-    const ImagePane::Statistics statistics = ui->imagePane->statistics();
-    m_framesLabel->setText(tr("%1 frames, %2 fps, %3 lost")
-                               .arg(statistics.received)
-                               .arg(m_acquiring ? statistics.framesPerSecond : 0.0, 0, 'f', 1)
-                               .arg(statistics.lost()));
+    const ImagePane::Statistics shown = ui->imagePane->statistics();
+    quint64 received = shown.received;
+    quint64 lost = shown.lost();
+    double framesPerSecond = shown.framesPerSecond;
+    if (m_camera->hasStream()) {
+        // The stream counts what the camera sent, the frames that never made
+        // it whole and those it put back while the pane was busy; the pane
+        // adds the frames that a newer one replaced before they were painted.
+        const ViewerCamera::StreamCounts counts = m_camera->streamCounts();
+        received = counts.received;
+        lost = counts.lost + shown.dropped;
+        framesPerSecond = streamFramesPerSecond(received);
+    }
+    m_framesLabel->setText(
+        tr("%1 frames, %2 fps, %3 lost").arg(received).arg(m_acquiring ? framesPerSecond : 0.0, 0, 'f', 1).arg(lost));
+}
+
+double ViewerMainWindow::streamFramesPerSecond(quint64 received)
+{
+    if (!m_acquiring)
+        return 0.0;
+    if (!m_rateClock.isValid())
+        m_rateClock.start();
+    const qint64 now = m_rateClock.elapsed();
+    m_rateSamples.append(qMakePair(now, received));
+    // The rate over the last second or so: the samples come with the statistics timer.
+    while (m_rateSamples.size() > 2 && now - m_rateSamples.at(1).first >= 1000)
+        m_rateSamples.removeFirst();
+    const QPair<qint64, quint64>& first = m_rateSamples.first();
+    if (now <= first.first || received < first.second)
+        return 0.0;
+    return double(received - first.second) * 1000.0 / double(now - first.first);
 }
 
 void ViewerMainWindow::onPixelHovered(int x, int y, const QString& value)
@@ -531,7 +590,8 @@ void ViewerMainWindow::updateActions()
         ui->actionUnplug->setEnabled(m_camera->simulation()->isPlugged());
         ui->actionReplug->setEnabled(!m_camera->simulation()->isPlugged());
     }
-    const bool canAcquire = open && m_camera->hasImages() && cameraParameter(QStringLiteral("AcquisitionStart"));
+    const bool canAcquire = open && !m_cameraLost && m_camera->hasImages()
+        && (m_camera->hasStream() || cameraParameter(QStringLiteral("AcquisitionStart")));
     ui->actionStartAcquisition->setEnabled(canAcquire && !m_acquiring);
     ui->actionStopAcquisition->setEnabled(open && m_acquiring);
     updatePlaceholder();
@@ -747,8 +807,10 @@ void ViewerMainWindow::on_actionUnplug_triggered()
 
 void ViewerMainWindow::on_actionReplug_triggered()
 {
-    if (m_camera && m_camera->simulation())
+    if (m_camera && m_camera->simulation()) {
         m_camera->simulation()->replug();
+        m_cameraLost = false;
+    }
     if (m_tree) {
         // Undoes the deviceIsClosed() that the camera's loss brought.
         m_tree->getFeatureExtension()->SetDeviceAlive(true);

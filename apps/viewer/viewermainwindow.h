@@ -5,9 +5,12 @@
 #include "parameters/iparameter.h"
 #include "viewertranslations.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
+#include <QPair>
 #include <QPointer>
 #include <QSharedPointer>
+#include <QVector>
 
 #include <memory>
 
@@ -77,9 +80,9 @@ public:
     QString statusText() const;
 
     ImagePane* imagePane() const;
-    //! Runs the camera's AcquisitionStart; false if it has none or refuses.
+    //! Starts the camera's stream, or runs its AcquisitionStart; false if it has neither or refuses.
     bool startAcquisition();
-    //! Runs the camera's AcquisitionStop; false if it has none or refuses.
+    //! Stops the camera's stream, or runs its AcquisitionStop; false if nothing runs.
     bool stopAcquisition();
     bool isAcquiring() const { return m_acquiring; }
     //! The status bar's frame counts: received, frames per second, lost.
@@ -147,6 +150,10 @@ private:
     bool writeAddress(const QString& name, const QString& address);
     bool runCommand(const QString& name);
     void updatePlaceholder();
+    //! The acquisition is over, stopped or ended by the camera's loss: actions, counts and picture follow.
+    void endAcquisition();
+    //! Frames a second that the camera's stream received lately; called with each statistics update.
+    double streamFramesPerSecond(quint64 received);
 
     std::unique_ptr<Ui_ViewerMainWindow> ui;
     QActionGroup* m_languageGroup = nullptr;
@@ -156,6 +163,9 @@ private:
     QLabel* m_framesLabel = nullptr;
     QTimer* m_statisticsTimer = nullptr;
     bool m_acquiring = false;
+    bool m_cameraLost = false; //!< the open camera went away; a simulated one comes back with Replug
+    QElapsedTimer m_rateClock;
+    QVector<QPair<qint64, quint64>> m_rateSamples; //!< (milliseconds, frames received) of a stream's last second
     QPointer<FeatureTreeWidget> m_tree;
     QSharedPointer<ViewerCamera> m_camera;
     QByteArray m_treeState;

@@ -74,6 +74,8 @@ if(WITH_ARAVIS)
             lib/cmake/${PACKAGE}/${PACKAGE}AravisTargets.cmake
             lib/pkgconfig/ZarvexAravis${NAME_SUFFIX}.pc
             include/${PACKAGE}/aravis/araviscamera.h
+            include/${PACKAGE}/aravis/aravisstream.h
+            include/${PACKAGE}/aravis/aravisframe.h
             include/${PACKAGE}/aravis/zarvexaravis_export.h)
         if(NOT EXISTS "${prefix}/${expected}")
             message(FATAL_ERROR "not installed: ${expected}")
@@ -85,7 +87,7 @@ endif()
 # dynamic symbol belongs to them (their methods, vtables, type information and
 # meta-objects), apart from the linker's own.
 set(public_Simulation "Simulation::(SimulatedCamera|NodeMapEntry)")
-set(public_Aravis "Aravis::(AravisCamera|CameraInfo|NodeMapEntry)")
+set(public_Aravis "Aravis::(AravisCamera|AravisStream|AravisFrame|CameraInfo|NodeMapEntry)")
 foreach(component IN LISTS components)
     run(nm -D --defined-only -C "${prefix}/lib/libZarvex${component}${NAME_SUFFIX}.so.6")
     string(REPLACE "\n" ";" symbols "${last_output}")
@@ -105,6 +107,42 @@ foreach(component IN LISTS components)
     endif()
     message(STATUS "libZarvex${component}${NAME_SUFFIX}: ${count} exported symbols, all of its public classes")
 endforeach()
+
+# A host streams from the public headers alone: they name no type of Aravis
+# or GLib, so the component's module is all it needs, without Aravis's own
+# development files. Built and linked, not run: there is no camera here.
+if(WITH_ARAVIS)
+    file(WRITE "${WORK_DIR}/stream-host.cpp" [=[
+#include <aravis/araviscamera.h>
+#include <aravis/aravisframe.h>
+#include <aravis/aravisstream.h>
+
+#include <QCoreApplication>
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    auto camera = Aravis::AravisCamera::open(app.arguments().value(1));
+    if (!camera)
+        return 1;
+    Aravis::AravisStream stream(*camera);
+    QObject::connect(&stream, &Aravis::AravisStream::frameReady, &app, [](const Aravis::AravisFrame& frame) {
+        qInfo("%d x %d %s", frame.width(), frame.height(), qPrintable(frame.pixelFormat()));
+        QCoreApplication::quit();
+    });
+    if (!stream.start())
+        return 1;
+    app.exec();
+    return int(stream.statistics().lost());
+}
+]=])
+    set(ENV{PKG_CONFIG_PATH} "${prefix}/lib/pkgconfig")
+    run(pkg-config --cflags --libs ZarvexAravis${NAME_SUFFIX})
+    string(STRIP "${last_output}" flags)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    run(c++ -std=c++17 -fPIC "${WORK_DIR}/stream-host.cpp" ${flags} -o "${WORK_DIR}/stream-host")
+    message(STATUS "a host streams through the installed Aravis component with its pkg-config module alone")
+endif()
 
 if(NOT EXAMPLES_DIR)
     return()

@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+652"/>
+        <location filename="../viewermainwindow.cpp" line="+712"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex Viewer</translation>
@@ -543,7 +543,7 @@
         <translation>&amp;About</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-549"/>
+        <location filename="../viewermainwindow.cpp" line="-609"/>
         <source>Looking for cameras...</source>
         <translation>Looking for cameras...</translation>
     </message>
@@ -586,7 +586,8 @@
         <translation>The camera cannot be opened: %1</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+14"/>
+        <location line="+7"/>
         <source>The camera is gone: %1</source>
         <translation>The camera is gone: %1</translation>
     </message>
@@ -606,12 +607,17 @@
         <translation>%1 could not be run.</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+15"/>
+        <source>The acquisition cannot start: %1</source>
+        <translation>The acquisition cannot start: %1</translation>
+    </message>
+    <message>
+        <location line="+60"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 frames, %2 fps, %3 lost</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+25"/>
         <source>x %1, y %2: %3</source>
         <translation>x %1, y %2: %3</translation>
     </message>
@@ -636,7 +642,7 @@
         <translation>Press Start Acquisition (F7) to see the picture.</translation>
     </message>
     <message>
-        <location line="+97"/>
+        <location line="+98"/>
         <location line="+6"/>
         <source>Open Device Description</source>
         <translation>Open Device Description</translation>
@@ -717,7 +723,7 @@
         <translation>The camera is unplugged</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>The camera is plugged in again</source>
         <translation>The camera is plugged in again</translation>
     </message>
@@ -781,7 +787,7 @@
         <translation>cannot write %1</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+38"/>
         <source>no camera could be opened</source>
         <translation>no camera could be opened</translation>
     </message>

@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+652"/>
+        <location filename="../viewermainwindow.cpp" line="+712"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex ビューアー</translation>
@@ -543,7 +543,7 @@
         <translation>バージョン情報(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-549"/>
+        <location filename="../viewermainwindow.cpp" line="-609"/>
         <source>Looking for cameras...</source>
         <translation>カメラを探しています...</translation>
     </message>
@@ -585,7 +585,8 @@
         <translation>カメラを開けません: %1</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+14"/>
+        <location line="+7"/>
         <source>The camera is gone: %1</source>
         <translation>カメラが失われました: %1</translation>
     </message>
@@ -605,12 +606,17 @@
         <translation>%1 を実行できませんでした。</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+15"/>
+        <source>The acquisition cannot start: %1</source>
+        <translation>取り込みを開始できません: %1</translation>
+    </message>
+    <message>
+        <location line="+60"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 フレーム、%2 fps、%3 欠落</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+25"/>
         <source>x %1, y %2: %3</source>
         <translation>x %1、y %2: %3</translation>
     </message>
@@ -635,7 +641,7 @@
         <translation>画像を見るには「取り込み開始」(F7) を押してください。</translation>
     </message>
     <message>
-        <location line="+97"/>
+        <location line="+98"/>
         <location line="+6"/>
         <source>Open Device Description</source>
         <translation>デバイス記述を開く</translation>
@@ -715,7 +721,7 @@
         <translation>カメラを取り外しました</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>The camera is plugged in again</source>
         <translation>カメラを再接続しました</translation>
     </message>
@@ -779,7 +785,7 @@
         <translation>%1 を書き込めません</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+38"/>
         <source>no camera could be opened</source>
         <translation>カメラを開けませんでした</translation>
     </message>

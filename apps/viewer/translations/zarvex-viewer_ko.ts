@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+652"/>
+        <location filename="../viewermainwindow.cpp" line="+712"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex 뷰어</translation>
@@ -543,7 +543,7 @@
         <translation>정보(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-549"/>
+        <location filename="../viewermainwindow.cpp" line="-609"/>
         <source>Looking for cameras...</source>
         <translation>카메라를 찾는 중...</translation>
     </message>
@@ -585,7 +585,8 @@
         <translation>카메라를 열 수 없습니다: %1</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+14"/>
+        <location line="+7"/>
         <source>The camera is gone: %1</source>
         <translation>카메라 연결이 끊어졌습니다: %1</translation>
     </message>
@@ -605,12 +606,17 @@
         <translation>%1을(를) 실행할 수 없습니다.</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+15"/>
+        <source>The acquisition cannot start: %1</source>
+        <translation>수집을 시작할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <location line="+60"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 프레임, %2 fps, %3 손실</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+25"/>
         <source>x %1, y %2: %3</source>
         <translation>X %1, Y %2 위치의 값: %3</translation>
     </message>
@@ -635,7 +641,7 @@
         <translation>그림을 보려면 수집 시작(F7)을 누르십시오.</translation>
     </message>
     <message>
-        <location line="+97"/>
+        <location line="+98"/>
         <location line="+6"/>
         <source>Open Device Description</source>
         <translation>장치 설명 열기</translation>
@@ -715,7 +721,7 @@
         <translation>카메라가 분리되었습니다</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>The camera is plugged in again</source>
         <translation>카메라가 다시 연결되었습니다</translation>
     </message>
@@ -779,7 +785,7 @@
         <translation>%1을(를) 쓸 수 없습니다</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+38"/>
         <source>no camera could be opened</source>
         <translation>카메라를 열 수 없습니다</translation>
     </message>

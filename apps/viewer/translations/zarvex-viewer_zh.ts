@@ -312,7 +312,7 @@
     <name>ViewerMainWindow</name>
     <message>
         <location filename="../viewermainwindow.ui" line="+6"/>
-        <location filename="../viewermainwindow.cpp" line="+652"/>
+        <location filename="../viewermainwindow.cpp" line="+712"/>
         <location line="+74"/>
         <source>Zarvex Viewer</source>
         <translation>Zarvex 查看器</translation>
@@ -543,7 +543,7 @@
         <translation>关于(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../viewermainwindow.cpp" line="-549"/>
+        <location filename="../viewermainwindow.cpp" line="-609"/>
         <source>Looking for cameras...</source>
         <translation>正在查找相机...</translation>
     </message>
@@ -585,7 +585,8 @@
         <translation>无法打开相机: %1</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+14"/>
+        <location line="+7"/>
         <source>The camera is gone: %1</source>
         <translation>相机已断开: %1</translation>
     </message>
@@ -605,12 +606,17 @@
         <translation>无法执行 %1。</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+15"/>
+        <source>The acquisition cannot start: %1</source>
+        <translation>无法开始采集: %1</translation>
+    </message>
+    <message>
+        <location line="+60"/>
         <source>%1 frames, %2 fps, %3 lost</source>
         <translation>%1 帧，%2 fps，丢失 %3</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+25"/>
         <source>x %1, y %2: %3</source>
         <translation>x %1，y %2: %3</translation>
     </message>
@@ -635,7 +641,7 @@
         <translation>按“开始采集”(F7) 查看图像。</translation>
     </message>
     <message>
-        <location line="+97"/>
+        <location line="+98"/>
         <location line="+6"/>
         <source>Open Device Description</source>
         <translation>打开设备描述</translation>
@@ -715,7 +721,7 @@
         <translation>相机已拔出</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>The camera is plugged in again</source>
         <translation>相机已重新插入</translation>
     </message>
@@ -779,7 +785,7 @@
         <translation>无法写入 %1</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+38"/>
         <source>no camera could be opened</source>
         <translation>无法打开任何相机</translation>
     </message>
