@@ -30,6 +30,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -426,6 +427,11 @@ void TestViewer::everyTextOfTheWindowChangesLanguage()
             unchanged.append(it.key() + QLatin1String(": ") + it.value());
     }
     QVERIFY2(unchanged.isEmpty(), qPrintable(unchanged.join(QLatin1Char('\n'))));
+    // The camera list makes room for its longest name in this language too.
+    QListWidget* list = m_window->cameraList();
+    QTRY_VERIFY2(list->viewport()->width() >= list->sizeHintForColumn(0),
+        qPrintable(QStringLiteral("%1 < %2").arg(list->viewport()->width()).arg(list->sizeHintForColumn(0))));
+    QVERIFY(!list->horizontalScrollBar()->isVisible());
     QVERIFY(m_window->setLanguage(QStringLiteral("en")));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
     QCOMPARE(windowTexts(m_window.get()), english);

@@ -37,6 +37,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QProgressDialog>
+#include <QScrollBar>
 #include <QSettings>
 #include <QShortcut>
 #include <QStatusBar>
@@ -151,6 +152,19 @@ void ViewerMainWindow::addCameraEntry(const QString& text, CameraKind kind, cons
     auto* item = new QListWidgetItem(text, ui->cameraList);
     item->setData(KindRole, kind);
     item->setData(SourceRole, source);
+    fitCameraListToNames();
+}
+
+void ViewerMainWindow::fitCameraListToNames()
+{
+    // The pane of the list never gets narrower than its longest name, so that
+    // no name is cut and no sideways scroll bar appears, in any language; a
+    // name longer than about forty characters may still scroll.
+    QListWidget* list = ui->cameraList;
+    const int names = list->sizeHintForColumn(0);
+    const int frame = 2 * list->frameWidth() + list->verticalScrollBar()->sizeHint().width();
+    const int limit = 40 * list->fontMetrics().averageCharWidth();
+    list->setMinimumWidth(qMin(qMax(names, 0), limit) + frame);
 }
 
 bool ViewerMainWindow::addDeviceFile(const QString& path, QString* error)
@@ -934,6 +948,7 @@ void ViewerMainWindow::retranslate()
             break;
         }
     }
+    fitCameraListToNames();
 }
 
 void ViewerMainWindow::restoreSettings()

@@ -141,6 +141,8 @@ private slots:
 
 private:
     void addCameraEntry(const QString& text, CameraKind kind, const QString& source);
+    //! Keeps the camera list at least as wide as its longest entry.
+    void fitCameraListToNames();
     QSharedPointer<ViewerCamera> createCamera(int row, QString* error);
     void closeCamera();
     void updateActions();
