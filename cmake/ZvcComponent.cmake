@@ -44,10 +44,13 @@ function(zvc_add_component component target)
     target_include_directories(${ARG_INTERNAL} PUBLIC ${CMAKE_CURRENT_BINARY_DIR})
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
 
-    # Methods, vtables, type information and meta-objects of the public classes.
+    # Methods (and their thunks), vtables, type information and meta-objects
+    # of the public classes. The patterns are anchored at the class name, so
+    # that a library template merely instantiated over a private nested type
+    # (a shared pointer's control block, say) stays local.
     set(patterns "")
     foreach(class IN LISTS ARG_PUBLIC_CLASSES)
-        string(APPEND patterns "      *${class}::*;\n      *for?${class};\n")
+        string(APPEND patterns "      ${class}::*;\n      *thunk?to?${class}::*;\n      *for?${class};\n")
     endforeach()
     set(version_script ${CMAKE_CURRENT_BINARY_DIR}/${lower}.map)
     file(WRITE ${version_script} "{\n  global:\n    extern \"C++\" {\n${patterns}    };\n  local: *;\n};\n")
