@@ -501,6 +501,8 @@ void FeatureTreeView::openWaitingEditorsWithinTurn()
     // leaves the rest to the slices: enough for the branches a user expands
     // one at a time, short next to the first frame of a large expansion.
     const qint64 turnNanoseconds = 16 * 1000 * 1000;
+    if (!hasEditorsToOpen() || m_bulkDepth > 0)
+        return;
     if (!m_turnClock.isValid()) {
         m_turnClock.start();
         QMetaObject::invokeMethod(

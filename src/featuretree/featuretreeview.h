@@ -173,13 +173,10 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 public:
-    //! Drops the editors still waiting to open with the rows they were for.
-    void reset() override;
-
-protected:
-public:
     //! The cell's rectangle; while the editors are placed, an empty one for a cell out of sight.
     QRect visualRect(QModelIndex const& index) const override;
+    //! Drops the editors still waiting to open along with the rows they were for.
+    void reset() override;
 
 protected:
     //! Makes model, proxy and delegate; a subclass may make others.
@@ -207,8 +204,9 @@ private:
 
     //! Whether the value cell's row asks for an editor that it does not have yet.
     bool wantsEditor(QModelIndex const& value) const;
-    //! Opens the editors of the rows in sight now and those of the rest of
-    //! the branch, expanded children included, in later turns of the event loop.
+    //! Puts the branch below an expanded parent (or the whole tree for the
+    //! root) among the waiting ones, expanded children included, and asks
+    //! for a slice.
     void openEditorsSoon(QModelIndex const& parent);
     //! Opens the waiting editors of the rows in sight.
     void openEditorsInSight();
@@ -250,8 +248,7 @@ private:
 
     // A branch whose editors are still to be opened: the rows of `parent`
     // from `nextRow` on, and below those of them that are expanded. Rows
-    // inserted or removed meanwhile may shift the rows, so each branch is
-    // walked again from its first row once rows have moved.
+    // inserted or removed before `nextRow` meanwhile move it along with them.
     struct WaitingBranch
     {
         QPersistentModelIndex parent;
