@@ -70,10 +70,11 @@ inline void deliver()
 //! search, inserted rows) a view opens the editors of the rows in sight at
 //! once and the others in short slices of the event loop. Whatever must hold
 //! "once the events are processed" holds when this returns true; false if
-//! some view still had editors waiting after a minute.
+//! some view still had editors waiting after five minutes (a slow machine
+//! under load, a sanitizer build).
 inline bool letEditorsOpen()
 {
-    QDeadlineTimer deadline(60000);
+    QDeadlineTimer deadline(5 * 60 * 1000);
     for (;;) {
         bool waiting = false;
         const QWidgetList widgets = QApplication::allWidgets();

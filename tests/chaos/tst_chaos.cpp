@@ -899,8 +899,9 @@ void TestChaos::soak()
         const bool check = i % 3 != 1 || i + 1 == g_steps;
         if (failure.isEmpty() && check) {
             timed(checkTime, [&] {
-                failure = TreeTest::letEditorsOpen() ? checkInvariants(what)
-                                                     : QStringLiteral("editors still waiting to open after a minute");
+                failure = TreeTest::letEditorsOpen()
+                    ? checkInvariants(what)
+                    : QStringLiteral("editors still waiting to open after five minutes");
             });
         }
         if (!failure.isEmpty()) {
