@@ -9,6 +9,9 @@
 #include "featuretree/ifeaturetreemodelextension.h"
 #include "parameters/iadvancedparameteraccess.h"
 
+#include <QApplication>
+#include <QDeadlineTimer>
+
 namespace TreeTest {
 
 //! One category "Controls" with a feature of each kind, and a Guru one.
@@ -60,6 +63,31 @@ inline void deliver()
     // runs deferred deletes: every editor the view closed would stay alive to
     // the end of the test, as an application's event loop would not let it.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+//! Lets the views open the editors they keep for later turns of the event
+//! loop. After a change that brings many rows at once (an expansion, a
+//! search, inserted rows) a view opens the editors of the rows in sight at
+//! once and the others in short slices of the event loop. Whatever must hold
+//! "once the events are processed" holds when this returns true; false if
+//! some view still had editors waiting after five minutes (a slow machine
+//! under load, a sanitizer build).
+inline bool letEditorsOpen()
+{
+    QDeadlineTimer deadline(5 * 60 * 1000);
+    for (;;) {
+        bool waiting = false;
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget* widget : widgets) {
+            auto* view = qobject_cast<FeatureTreeView*>(widget);
+            waiting = waiting || (view && view->hasEditorsToOpen());
+        }
+        if (!waiting)
+            return true;
+        if (deadline.hasExpired())
+            return false;
+        QCoreApplication::processEvents();
+    }
 }
 
 //! The view's proxy index of a feature in the given column.

@@ -242,6 +242,8 @@ void TestAravisFakeCamera::editInTheWidgetAndLose()
     // One category at a time, as a user opens them: each expansion opens the editors below it.
     TreeTest::expandEveryCategory(view, QModelIndex());
     QCoreApplication::processEvents();
+    // The editors of the rows out of sight open in later turns of the event loop.
+    QVERIFY(TreeTest::letEditorsOpen());
 
     IFeatureTreeModelExtension* extension = widget.getFeatureExtension();
     QVERIFY(extension);

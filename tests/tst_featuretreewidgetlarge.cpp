@@ -121,12 +121,17 @@ private slots:
     void editorsOutOfSightWaitHiddenUntilScrolledTo();
     void focusedEditorStaysShownOutOfSight();
     void aChangedValueRepaintsItsRowOnly();
+    void expandingOpensEditorsInSightBeforeTheFirstPaint();
+    void searchOpensEditorsInSightBeforeItsRepaint();
+    void changesWhileEditorsWait_data();
+    void changesWhileEditorsWait();
 
 private:
     static SearchEdit* searchLine(FeatureTreeWidget& widget) { return widget.findChild<SearchEdit*>("filterEdit"); }
     static FeatureTreeView* view(FeatureTreeWidget& widget) { return static_cast<FeatureTreeView*>(widget.treeView()); }
-    //! A shown widget on the synthetic camera with every category expanded and the events handled.
-    void makeWidget(std::unique_ptr<FeatureTreeWidget>& widget);
+    //! A shown widget on the synthetic camera with every category expanded (unless
+    //! told otherwise) and the events handled, its waiting editors opened too.
+    void makeWidget(std::unique_ptr<FeatureTreeWidget>& widget, bool expand = true);
 
     QSharedPointer<Simulation::SimulatedDevice> m_device;
 };
@@ -161,7 +166,7 @@ void TestFeatureTreeWidgetLarge::cleanup()
     m_device.reset();
 }
 
-void TestFeatureTreeWidgetLarge::makeWidget(std::unique_ptr<FeatureTreeWidget>& widget)
+void TestFeatureTreeWidgetLarge::makeWidget(std::unique_ptr<FeatureTreeWidget>& widget, bool expand)
 {
     widget = std::make_unique<FeatureTreeWidget>(QString(), m_device->baseInfo());
     widget->setVisibility(GenApi::Guru);
@@ -170,8 +175,10 @@ void TestFeatureTreeWidgetLarge::makeWidget(std::unique_ptr<FeatureTreeWidget>& 
     widget->resize(480, 600);
     widget->show();
     QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
-    expandEveryCategory(widget->treeView(), QModelIndex());
+    if (expand)
+        expandEveryCategory(widget->treeView(), QModelIndex());
     QCoreApplication::processEvents();
+    QVERIFY(letEditorsOpen());
 }
 
 void TestFeatureTreeWidgetLarge::editorsAfterExpandingEveryCategory()
@@ -234,6 +241,8 @@ void TestFeatureTreeWidgetLarge::editorsAfterSearchGestures()
         if (i == 0 && levelDuringSearch >= 0)
             QMetaObject::invokeMethod(widget.get(), "onVisibilityChanged", Q_ARG(int, levelDuringSearch));
         QCoreApplication::processEvents();
+        // The editors of the rows out of sight open in turns of the event loop.
+        QVERIFY(letEditorsOpen());
         const EditorCensus result = census(*tree);
         const QString step = QStringLiteral("after \"%1\"").arg(texts.at(i));
         QVERIFY2(result.missing.isEmpty(), qPrintable(step + QStringLiteral(" missing: ") + result.missing.join(',')));
@@ -397,6 +406,8 @@ void TestFeatureTreeWidgetLarge::editorsClosedInABulkChangeComeBackWhenTheirBran
     tree->expand(value.parent().parent());
     QCoreApplication::processEvents();
     QVERIFY(tree->indexWidget(viewIndex(*tree, fullName, 1)));
+    // Those out of sight open in later turns of the event loop.
+    QVERIFY(letEditorsOpen());
     const EditorCensus result = census(*tree);
     QCOMPARE(result.missing, QStringList());
     QCOMPARE(result.extra, QStringList());
@@ -590,6 +601,176 @@ void TestFeatureTreeWidgetLarge::aChangedValueRepaintsItsRowOnly()
                        .arg(row.y())
                        .arg(row.width())
                        .arg(row.height())));
+}
+
+namespace {
+
+//! Watches a view's paints; at the first one it notes the rows in sight
+//! that should have an editor and have none.
+class FirstPaintCheck : public QObject
+{
+public:
+    explicit FirstPaintCheck(FeatureTreeView& view)
+        : m_view(view)
+    {
+        view.viewport()->installEventFilter(this);
+    }
+
+    int paints = 0;
+    int rowsInSight = 0;
+    int editorsInSight = 0;
+    QStringList missingInSight;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::Paint || paints++ > 0)
+            return false;
+        const QRect sight = m_view.viewport()->rect();
+        for (QModelIndex name = m_view.indexAt(QPoint(0, 0)); name.isValid(); name = m_view.indexBelow(name)) {
+            if (m_view.visualRect(name).top() > sight.bottom())
+                break;
+            ++rowsInSight;
+            const QModelIndex value = name.sibling(name.row(), 1);
+            if (m_view.indexWidget(value))
+                ++editorsInSight;
+            else if (wantsEditor(m_view, value))
+                missingInSight << name.data(FeatureTreeItem::FullNameRole).toString();
+        }
+        return false;
+    }
+
+private:
+    FeatureTreeView& m_view;
+};
+
+} // namespace
+
+void TestFeatureTreeWidgetLarge::expandingOpensEditorsInSightBeforeTheFirstPaint()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget, false);
+    FeatureTreeView* tree = view(*widget);
+    FirstPaintCheck check(*tree);
+
+    // Expanding every category opens editors for a few milliseconds only:
+    // the rest wait for the event loop, where those of the rows in sight
+    // open first.
+    expandEveryCategory(tree, QModelIndex());
+    QVERIFY(tree->hasEditorsToOpen());
+    const EditorCensus waiting = census(*tree);
+    QVERIFY2(!waiting.missing.isEmpty(), qPrintable(QString::number(waiting.withEditor)));
+    QCOMPARE(waiting.extra, QStringList());
+    QCOMPARE(check.paints, 0);
+
+    // The first frame shows every row in sight with its editor.
+    QTRY_VERIFY(check.paints > 0);
+    QVERIFY2(check.rowsInSight > 10, qPrintable(QString::number(check.rowsInSight)));
+    QVERIFY2(check.editorsInSight > 5, qPrintable(QString::number(check.editorsInSight)));
+    QCOMPARE(check.missingInSight, QStringList());
+
+    // Once the events are processed every row has its editor, exactly as if
+    // they had all opened at once.
+    QVERIFY(letEditorsOpen());
+    const EditorCensus result = census(*tree);
+    QCOMPARE(result.missing, QStringList());
+    QCOMPARE(result.extra, QStringList());
+    QVERIFY2(result.withEditor > 300, qPrintable(QString::number(result.withEditor)));
+}
+
+void TestFeatureTreeWidgetLarge::searchOpensEditorsInSightBeforeItsRepaint()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget);
+    FeatureTreeView* tree = view(*widget);
+    FirstPaintCheck check(*tree);
+
+    // The widget repaints the results within the keystroke; the rows in
+    // sight have their editors by then, some others may wait for the event
+    // loop.
+    QTest::keyClicks(searchLine(*widget), QStringLiteral("7"));
+    QVERIFY(check.paints > 0);
+    QVERIFY2(check.rowsInSight > 10, qPrintable(QString::number(check.rowsInSight)));
+    QVERIFY2(check.editorsInSight > 5, qPrintable(QString::number(check.editorsInSight)));
+    QCOMPARE(check.missingInSight, QStringList());
+
+    QVERIFY(letEditorsOpen());
+    const EditorCensus result = census(*tree);
+    QCOMPARE(result.missing, QStringList());
+    QCOMPARE(result.extra, QStringList());
+    QVERIFY2(result.withEditor > 50, qPrintable(QString::number(result.withEditor)));
+}
+
+void TestFeatureTreeWidgetLarge::changesWhileEditorsWait_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::newRow("all opened at once") << QStringLiteral("all opened at once");
+    QTest::newRow("level") << QStringLiteral("level");
+    QTest::newRow("search") << QStringLiteral("search");
+    QTest::newRow("search cleared") << QStringLiteral("search cleared");
+    QTest::newRow("collapse all") << QStringLiteral("collapse all");
+    QTest::newRow("collapse and expand again") << QStringLiteral("collapse and expand again");
+    QTest::newRow("model reset") << QStringLiteral("model reset");
+    QTest::newRow("widget destroyed") << QStringLiteral("widget destroyed");
+}
+
+void TestFeatureTreeWidgetLarge::changesWhileEditorsWait()
+{
+    QFETCH(QString, change);
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget, false);
+    FeatureTreeView* tree = view(*widget);
+    expandEveryCategory(tree, QModelIndex());
+    // One turn of the event loop: the rows in sight and a first slice.
+    QCoreApplication::processEvents();
+    QVERIFY(tree->hasEditorsToOpen());
+
+    if (change == QLatin1String("all opened at once")) {
+        // A host that cannot wait for the event loop opens them all now.
+        tree->openWaitingEditors();
+        QVERIFY(!tree->hasEditorsToOpen());
+        const EditorCensus now = census(*tree);
+        QCOMPARE(now.missing, QStringList());
+        QCOMPARE(now.extra, QStringList());
+    } else if (change == QLatin1String("level")) {
+        widget->setVisibility(GenApi::Beginner);
+    } else if (change == QLatin1String("search")) {
+        QTest::keyClicks(searchLine(*widget), QStringLiteral("7"));
+    } else if (change == QLatin1String("search cleared")) {
+        QTest::keyClicks(searchLine(*widget), QStringLiteral("7"));
+        QCoreApplication::processEvents();
+        searchLine(*widget)->clear();
+    } else if (change == QLatin1String("collapse all")) {
+        tree->collapseAll();
+    } else if (change == QLatin1String("collapse and expand again")) {
+        tree->collapseAll();
+        QCoreApplication::processEvents();
+        expandEveryCategory(tree, QModelIndex());
+    } else if (change == QLatin1String("model reset")) {
+        // The proxy lets go of the model and takes it up again empty; then
+        // the camera comes back and every category is expanded anew.
+        widget->clear();
+        QCOMPARE(census(*tree).withEditor, 0);
+        QCoreApplication::processEvents();
+        for (const QString& name : m_device->nodeMapNames())
+            widget->addParameterCollection(m_device->nodeMap(name), name, name, false);
+        expandEveryCategory(tree, QModelIndex());
+    } else if (change == QLatin1String("widget destroyed")) {
+        QPointer<FeatureTreeView> guard(tree);
+        widget.reset();
+        QVERIFY(guard.isNull());
+        // The slice it had asked for never comes to a view that is gone.
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+        QVERIFY(letEditorsOpen());
+        return;
+    }
+
+    QVERIFY(letEditorsOpen());
+    QVERIFY(!tree->hasEditorsToOpen());
+    const EditorCensus result = census(*tree);
+    QCOMPARE(result.missing, QStringList());
+    QCOMPARE(result.extra, QStringList());
 }
 
 QTEST_MAIN(TestFeatureTreeWidgetLarge)

@@ -10,6 +10,7 @@
 #include "signalblocker.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QPainter>
 
 #include <exception>
@@ -51,6 +52,7 @@ FeatureTreeView::~FeatureTreeView()
     // the favourites there must not meet a model that is already gone. The
     // view lets go of the proxy first, so that no signal of the dying models
     // reaches a half-destroyed view, then deletes the proxy before its source.
+    dropWaitingEditors();
     setModel(nullptr);
     delete m_ownedProxy;
     delete m_ownedModel;
@@ -77,8 +79,11 @@ void FeatureTreeView::onModelLayoutChanged()
     // invalidate() filters every row again: a row that passes now and did
     // not before comes with the layout change, not as an inserted row, and
     // nothing else gives it an editor. (Within a bulk change this waits for
-    // its end.)
-    openVisibleEditors();
+    // its end.) As after a bulk change, the rows in sight first, then the
+    // others for the rest of this turn's allowance and in later slices.
+    openEditorsSoon(QModelIndex());
+    openEditorsInSight();
+    openWaitingEditorsWithinTurn();
 }
 
 IFeatureTreeModelExtension* FeatureTreeView::getFeatureExtension()
@@ -131,14 +136,17 @@ void FeatureTreeView::openPersistentEditor(QModelIndex const& index)
         return;
     if (item->getAccessMode() <= GenApi::NA)
         return;
+    m_lastVisualIndex = QModelIndex();
     QAbstractItemView::openPersistentEditor(index);
     QWidget* editor = indexWidget(index);
     if (!editor)
         return;
     m_editorIndexes.insert(index);
     // The base class shows every new editor. One out of sight waits hidden
-    // until its row scrolls into view (see placeEditors()).
-    if (!m_placingEditors && !keepsEditorShown(index, QTreeView::visualRect(index))) {
+    // until its row scrolls into view (see placeEditors()). The base class
+    // has just asked visualRect() for the cell; its answer is reused.
+    const QRect cell = m_lastVisualIndex == index ? m_lastVisualRect : QTreeView::visualRect(index);
+    if (!m_placingEditors && !keepsEditorShown(index, cell)) {
         editor->hide();
         m_editorsOutOfSight = true;
     }
@@ -160,7 +168,11 @@ void FeatureTreeView::endBulkChange()
     }
     if (--m_bulkDepth > 0)
         return;
-    openVisibleEditors();
+    // The rows in sight get their editors now, before the repaint that
+    // usually follows; the others in the coming turns of the event loop.
+    openEditorsSoon(QModelIndex());
+    openEditorsInSight();
+    openWaitingEditorsWithinTurn();
     placeEditors();
 }
 
@@ -263,6 +275,8 @@ bool FeatureTreeView::keepsEditorShown(QModelIndex const& index, QRect const& ce
 QRect FeatureTreeView::visualRect(QModelIndex const& index) const
 {
     const QRect cell = QTreeView::visualRect(index);
+    m_lastVisualIndex = index;
+    m_lastVisualRect = cell;
     if (!m_placingEditors || !cell.isValid() || keepsEditorShown(index, cell))
         return cell;
     m_editorsOutOfSight = true;
@@ -277,7 +291,8 @@ void FeatureTreeView::scrollContentsBy(int dx, int dy)
 
 void FeatureTreeView::showEditorsInSight()
 {
-    if (!m_editorsOutOfSight || !model() || m_placingEditors)
+    const bool waiting = hasEditorsToOpen() && m_bulkDepth == 0;
+    if ((!m_editorsOutOfSight && !waiting) || !model() || m_placingEditors)
         return;
     QStyleOptionViewItem option;
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -292,7 +307,13 @@ void FeatureTreeView::showEditorsInSight()
         if (cell.top() > sight.bottom())
             break;
         QWidget* editor = indexWidget(value);
-        if (!editor || !editor->isHidden())
+        if (!editor) {
+            // A row whose editor was still waiting opens it as it comes into sight.
+            if (waiting && wantsEditor(value))
+                openPersistentEditor(value);
+            continue;
+        }
+        if (!editor->isHidden())
             continue;
         option.rect = cell;
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -340,19 +361,24 @@ void FeatureTreeView::hideRow(int row, QModelIndex const& parent)
 
 void FeatureTreeView::updateRows(QModelIndex const& parent)
 {
-    forEachValueCell(parent, [this, &parent](int row, QModelIndex const& child, FeatureTreeItem* item) {
+    updateRowsOf(parent, true);
+}
+
+void FeatureTreeView::updateRowsOf(QModelIndex const& parent, bool openEditors)
+{
+    forEachValueCell(parent, [this, &parent, openEditors](int row, QModelIndex const& child, FeatureTreeItem* item) {
         if (item) {
             if (item->ShowMe(m_visibility)) {
                 if (isRowHidden(row, parent))
                     setRowHidden(row, parent, false);
-                if (!indexWidget(child) && item->usePersistentEditor())
+                if (openEditors && !indexWidget(child) && item->usePersistentEditor())
                     openPersistentEditor(child);
             } else if (!isRowHidden(row, parent)) {
                 hideRow(row, parent);
             }
         }
         // On the column-1 index: a deeper level is handled when it is expanded.
-        updateRows(child);
+        updateRowsOf(child, openEditors);
     });
 }
 
@@ -360,14 +386,190 @@ void FeatureTreeView::rowsInserted(QModelIndex const& parent, int start, int end
 {
     QTreeView::rowsInserted(parent, start, end);
     closeEditorsForBulkChange();
-    openPersistentEditorsForChildren(parent);
+    // A branch waiting below this parent resumes at the same row as before.
+    const int count = end - start + 1;
+    for (WaitingBranch& branch : m_waitingBranches) {
+        if ((branch.root ? !parent.isValid() : branch.parent == parent) && branch.nextRow > start)
+            branch.nextRow += count;
+    }
+    if (parent.isValid()) {
+        openEditorsSoon(parent);
+        openWaitingEditorsWithinTurn();
+    }
 }
 
 void FeatureTreeView::rowsAboutToBeRemoved(QModelIndex const& parent, int start, int end)
 {
     // Before the model walks its persistent indexes for this range.
     closeEditorsForBulkChange();
+    for (WaitingBranch& branch : m_waitingBranches) {
+        if (!(branch.root ? !parent.isValid() : branch.parent == parent))
+            continue;
+        if (branch.nextRow > end)
+            branch.nextRow -= end - start + 1;
+        else if (branch.nextRow > start)
+            branch.nextRow = start;
+    }
     QTreeView::rowsAboutToBeRemoved(parent, start, end);
+}
+
+void FeatureTreeView::reset()
+{
+    dropWaitingEditors();
+    QTreeView::reset();
+}
+
+bool FeatureTreeView::wantsEditor(QModelIndex const& value) const
+{
+    const IFeatureTreeModelExtension* extension = getFeatureExtension();
+    FeatureTreeItem* item = extension ? extension->getFeatureTreeItem(value) : nullptr;
+    return item && item->ShowMe(m_visibility) && item->usePersistentEditor() && !indexWidget(value);
+}
+
+void FeatureTreeView::openEditorsSoon(QModelIndex const& parent)
+{
+    if (!model() || m_bulkDepth > 0)
+        return;
+    if (parent.isValid() && !isExpanded(parent))
+        return;
+    WaitingBranch branch;
+    branch.ticket = ++m_nextTicket;
+    if (!parent.isValid()) {
+        // A walk from the top reaches every branch on its way.
+        m_waitingBranches.clear();
+        m_waitingTickets.clear();
+        branch.root = true;
+        m_rootTicket = branch.ticket;
+    } else {
+        branch.parent = parent.sibling(parent.row(), 0);
+        // A branch asked for again is walked again from its first row; its
+        // older entry is skipped.
+        m_waitingTickets.insert(branch.parent, branch.ticket);
+    }
+    m_waitingBranches.push_back(branch);
+    postEditorSlice();
+}
+
+void FeatureTreeView::openEditorsInSight()
+{
+    if (!model() || m_bulkDepth > 0 || !getFeatureExtension())
+        return;
+    const int bottom = viewport()->rect().bottom();
+    for (QModelIndex name = indexAt(QPoint(0, 0)); name.isValid(); name = indexBelow(name)) {
+        if (QTreeView::visualRect(name).top() > bottom)
+            break;
+        const QModelIndex value = name.sibling(name.row(), 1);
+        if (wantsEditor(value))
+            openPersistentEditor(value);
+    }
+}
+
+void FeatureTreeView::postEditorSlice()
+{
+    if (m_editorSlicePosted)
+        return;
+    m_editorSlicePosted = true;
+    // A posted call, not a timer: it runs before the repaint that the
+    // same turn of the event loop asks for, and dies with the view.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_editorSlicePosted)
+                openEditorSlice();
+        },
+        Qt::QueuedConnection);
+}
+
+void FeatureTreeView::openEditorSlice()
+{
+    m_editorSlicePosted = false;
+    // A bulk change in progress opens everything at its end.
+    if (m_bulkDepth > 0 || !hasEditorsToOpen())
+        return;
+    // Long enough to open some dozens of editors, short enough that typing
+    // and scrolling meanwhile feel immediate.
+    const qint64 sliceNanoseconds = 12 * 1000 * 1000;
+    openEditorsInSight();
+    openWaitingEditorsFor(sliceNanoseconds);
+    if (hasEditorsToOpen())
+        postEditorSlice();
+}
+
+void FeatureTreeView::openWaitingEditorsWithinTurn()
+{
+    // What one turn of the event loop may spend opening editors before it
+    // leaves the rest to the slices: enough for the branches a user expands
+    // one at a time, short next to the first frame of a large expansion.
+    const qint64 turnNanoseconds = 16 * 1000 * 1000;
+    if (!hasEditorsToOpen() || m_bulkDepth > 0)
+        return;
+    if (!m_turnClock.isValid()) {
+        m_turnClock.start();
+        QMetaObject::invokeMethod(
+            this, [this] { m_turnClock.invalidate(); }, Qt::QueuedConnection);
+    }
+    const qint64 left = turnNanoseconds - m_turnClock.nsecsElapsed();
+    if (left > 0)
+        openWaitingEditorsFor(left);
+}
+
+void FeatureTreeView::openWaitingEditors()
+{
+    openEditorsInSight();
+    openWaitingEditorsFor(-1);
+}
+
+void FeatureTreeView::dropWaitingEditors()
+{
+    m_waitingBranches.clear();
+    m_waitingTickets.clear();
+    m_rootTicket = 0;
+}
+
+void FeatureTreeView::openWaitingEditorsFor(qint64 nanoseconds)
+{
+    IFeatureTreeModelExtension* extension = getFeatureExtension();
+    QAbstractItemModel* itemModel = model();
+    if (!extension || !itemModel || m_bulkDepth > 0 || m_openingWaitingEditors)
+        return;
+    m_openingWaitingEditors = true;
+    QElapsedTimer clock;
+    clock.start();
+    // One row per round, and the front branch looked at anew each time:
+    // opening an editor may change the model, and the branches with it.
+    while (!m_waitingBranches.empty()) {
+        WaitingBranch& branch = m_waitingBranches.front();
+        const bool live = branch.root ? branch.ticket == m_rootTicket
+                                      : branch.parent.isValid() && branch.parent.model() == itemModel
+                && m_waitingTickets.value(branch.parent) == branch.ticket && isExpanded(branch.parent);
+        const QModelIndex parent = branch.root ? QModelIndex() : QModelIndex(branch.parent);
+        if (!live || branch.nextRow >= itemModel->rowCount(parent)) {
+            if (live && !branch.root)
+                m_waitingTickets.remove(branch.parent);
+            m_waitingBranches.pop_front();
+            continue;
+        }
+        const quint64 ticket = branch.ticket;
+        const int row = branch.nextRow++;
+        if (!isRowHidden(row, parent)) {
+            const QModelIndex value = itemModel->index(row, 1, parent);
+            if (wantsEditor(value))
+                openPersistentEditor(value);
+            const QModelIndex name = itemModel->index(row, 0, parent);
+            // The rows below an expanded child come before the parent's next row.
+            if (name.isValid() && isExpanded(name) && !m_waitingBranches.empty()
+                && m_waitingBranches.front().ticket == ticket) {
+                WaitingBranch child;
+                child.parent = name;
+                child.ticket = ++m_nextTicket;
+                m_waitingTickets.insert(child.parent, child.ticket);
+                m_waitingBranches.push_front(child);
+            }
+        }
+        if (nanoseconds >= 0 && clock.nsecsElapsed() > nanoseconds)
+            break;
+    }
+    m_openingWaitingEditors = false;
 }
 
 void FeatureTreeView::currentChanged(QModelIndex const& current, QModelIndex const& previous)
@@ -378,22 +580,42 @@ void FeatureTreeView::currentChanged(QModelIndex const& current, QModelIndex con
 
 void FeatureTreeView::onSelfExpanded(QModelIndex const& index)
 {
-    updateRows(index);
+    updateRowsOf(index, false);
     if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
         if (index == extension->GetFavoritesRootIndex() && extension->GetFavorites())
             extension->GetFavorites()->setExpanded(true);
     }
-    openPersistentEditorsForChildren(index);
-    // The rows below children that stayed expanded come into sight again
-    // too. A bulk change while the branch was collapsed closed their editors
-    // and opened again only those of the rows then on screen.
-    if (QAbstractItemModel* itemModel = model()) {
-        const int rows = itemModel->rowCount(index);
-        for (int row = 0; row < rows; ++row) {
-            const QModelIndex child = itemModel->index(row, 0, index);
-            if (!isRowHidden(row, index) && isExpanded(child))
-                openVisibleEditors(child);
-        }
+    // The editors of the children, and of the rows below children that
+    // stayed expanded: a bulk change while the branch was collapsed closed
+    // theirs and opened again only those of the rows then on screen.
+    // Expanding every category of a large camera one after the other would
+    // otherwise open thousands of editors before the first frame: they open
+    // now for as long as this turn of the event loop allows, which is all of
+    // them for a single expansion of an ordinary branch; the children in
+    // sight open now in any case.
+    openEditorsSoon(index);
+    openWaitingEditorsWithinTurn();
+    openChildEditorsInSight(index);
+}
+
+void FeatureTreeView::openChildEditorsInSight(QModelIndex const& parent)
+{
+    QAbstractItemModel* itemModel = model();
+    if (!itemModel || m_bulkDepth > 0 || !isExpanded(parent))
+        return;
+    // The children follow one another down the view: the first one below
+    // the viewport ends the walk, usually at once.
+    const QRect sight = viewport()->rect();
+    const int rows = itemModel->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        if (isRowHidden(row, parent))
+            continue;
+        const QModelIndex value = itemModel->index(row, 1, parent);
+        const QRect cell = QTreeView::visualRect(value);
+        if (cell.top() > sight.bottom())
+            break;
+        if (cell.bottom() >= sight.top() && wantsEditor(value))
+            openPersistentEditor(value);
     }
 }
 

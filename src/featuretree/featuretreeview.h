@@ -8,10 +8,13 @@
 #include "parameters/genapienums.h"
 #include "zarvexviewercomponents_export.h"
 
+#include <QElapsedTimer>
+#include <QHash>
 #include <QPersistentModelIndex>
 #include <QSet>
 #include <QTreeView>
 
+#include <deque>
 #include <functional>
 
 class FeatureTreeItem;
@@ -103,6 +106,18 @@ public:
     //! Opens the missing editors of the visible value rows below expanded parents, from `parent` down.
     void openVisibleEditors(QModelIndex const& parent = QModelIndex());
 
+    /*!
+     * Whether some editors are still to be opened in later turns of the event
+     * loop. After a change that brings many rows at once (the end of a bulk
+     * change, an expansion, inserted rows, a new layout) the editors of the
+     * rows in sight open before the next paint and the others in short
+     * slices, top to bottom, so that the view answers meanwhile. Once the
+     * events are processed every visible value row has its editor.
+     */
+    bool hasEditorsToOpen() const { return !m_waitingBranches.empty(); }
+    //! Opens now every editor that is still waiting for a later turn of the event loop.
+    void openWaitingEditors();
+
 signals:
     //! The current row changed, also to none when the current row was hidden.
     void onCurrentChanged(QModelIndex current);
@@ -160,6 +175,8 @@ protected:
 public:
     //! The cell's rectangle; while the editors are placed, an empty one for a cell out of sight.
     QRect visualRect(QModelIndex const& index) const override;
+    //! Drops the editors still waiting to open along with the rows they were for.
+    void reset() override;
 
 protected:
     //! Makes model, proxy and delegate; a subclass may make others.
@@ -168,6 +185,9 @@ protected:
 private:
     //! Hides a row and tells the host when the current row went with it.
     void hideRow(int row, QModelIndex const& parent);
+    //! Brings the hidden rows below an expanded parent up to date with the
+    //! level, and opens their editors at once if asked to.
+    void updateRowsOf(QModelIndex const& parent, bool openEditors);
     //! Visits the value cells of the children of an expanded parent.
     void forEachValueCell(QModelIndex const& parent,
         const std::function<void(int row, QModelIndex const& child, FeatureTreeItem* item)>& visit);
@@ -178,8 +198,30 @@ private:
     void placeEditors();
     //! Whether the cell's editor stays shown although its row is out of sight.
     bool keepsEditorShown(QModelIndex const& index, QRect const& cell) const;
-    //! Shows and places the hidden editors of the rows in sight.
+    //! Shows and places the hidden editors of the rows in sight, and opens
+    //! those that are still waiting.
     void showEditorsInSight();
+
+    //! Whether the value cell's row asks for an editor that it does not have yet.
+    bool wantsEditor(QModelIndex const& value) const;
+    //! Puts the branch below an expanded parent (or the whole tree for the
+    //! root) among the waiting ones, expanded children included, and asks
+    //! for a slice.
+    void openEditorsSoon(QModelIndex const& parent);
+    //! Opens the waiting editors of the rows in sight.
+    void openEditorsInSight();
+    //! Opens the waiting editors of the children of an expanded parent that are in sight.
+    void openChildEditorsInSight(QModelIndex const& parent);
+    //! One slice: the rows in sight, then waiting branches for a few milliseconds.
+    void openEditorSlice();
+    //! Opens waiting editors, top to bottom, until `nanoseconds` have passed (-1: all).
+    void openWaitingEditorsFor(qint64 nanoseconds);
+    //! Opens waiting editors for what is left of this turn's allowance.
+    void openWaitingEditorsWithinTurn();
+    //! Asks for a slice in the next turn of the event loop.
+    void postEditorSlice();
+    //! Forgets every waiting editor.
+    void dropWaitingEditors();
 
     GenApi::EVisibility m_visibility;
     QSet<QPersistentModelIndex> m_persistentIndexes;
@@ -199,4 +241,31 @@ private:
     bool m_placingEditors = false;
     // Some editor was hidden because its row was out of sight.
     mutable bool m_editorsOutOfSight = false;
+    // The cell that visualRect() was last asked for and its rectangle, so
+    // that opening an editor does not work it out a second time.
+    mutable QModelIndex m_lastVisualIndex;
+    mutable QRect m_lastVisualRect;
+
+    // A branch whose editors are still to be opened: the rows of `parent`
+    // from `nextRow` on, and below those of them that are expanded. Rows
+    // inserted or removed before `nextRow` meanwhile move it along with them.
+    struct WaitingBranch
+    {
+        QPersistentModelIndex parent;
+        bool root = false;
+        int nextRow = 0;
+        quint64 ticket = 0;
+    };
+    // The waiting branches in the order of the view's rows; the front one
+    // is walked first.
+    std::deque<WaitingBranch> m_waitingBranches;
+    // The ticket of each parent's live entry (the root's apart); an entry
+    // whose parent has since been given a newer ticket, or none, is skipped.
+    QHash<QPersistentModelIndex, quint64> m_waitingTickets;
+    quint64 m_rootTicket = 0;
+    quint64 m_nextTicket = 0;
+    bool m_editorSlicePosted = false;
+    // Runs from the first editor opened at once in this turn of the event loop.
+    QElapsedTimer m_turnClock;
+    bool m_openingWaitingEditors = false;
 };
