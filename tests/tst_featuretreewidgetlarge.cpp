@@ -125,6 +125,7 @@ private slots:
     void searchOpensEditorsInSightBeforeItsRepaint();
     void changesWhileEditorsWait_data();
     void changesWhileEditorsWait();
+    void rowsInSightOpenFirstWhereverTheViewIs();
 
 private:
     static SearchEdit* searchLine(FeatureTreeWidget& widget) { return widget.findChild<SearchEdit*>("filterEdit"); }
@@ -771,6 +772,35 @@ void TestFeatureTreeWidgetLarge::changesWhileEditorsWait()
     const EditorCensus result = census(*tree);
     QCOMPARE(result.missing, QStringList());
     QCOMPARE(result.extra, QStringList());
+}
+
+void TestFeatureTreeWidgetLarge::rowsInSightOpenFirstWhereverTheViewIs()
+{
+    // Far down the tree, the rows that a higher level brings into sight get
+    // their editors before the next paint, ahead of the many rows above them
+    // that wait for later slices.
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget, false);
+    FeatureTreeView* tree = view(*widget);
+    widget->setVisibility(GenApi::Beginner);
+    expandEveryCategory(tree, QModelIndex());
+    QVERIFY(letEditorsOpen());
+    tree->verticalScrollBar()->setValue(tree->verticalScrollBar()->maximum() * 3 / 4);
+    QCoreApplication::processEvents();
+    const int before = census(*tree).withEditor;
+
+    FirstPaintCheck check(*tree);
+    widget->setVisibility(GenApi::Guru);
+    QVERIFY(tree->verticalScrollBar()->value() > 0);
+    QVERIFY(tree->hasEditorsToOpen());
+    QTRY_VERIFY(check.paints > 0);
+    QVERIFY2(check.rowsInSight > 10, qPrintable(QString::number(check.rowsInSight)));
+    QCOMPARE(check.missingInSight, QStringList());
+    QVERIFY(letEditorsOpen());
+    const EditorCensus result = census(*tree);
+    QCOMPARE(result.missing, QStringList());
+    QCOMPARE(result.extra, QStringList());
+    QVERIFY2(result.withEditor > before, qPrintable(QStringLiteral("%1 > %2").arg(result.withEditor).arg(before)));
 }
 
 QTEST_MAIN(TestFeatureTreeWidgetLarge)
