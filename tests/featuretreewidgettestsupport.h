@@ -150,7 +150,6 @@ private:
     static inline QtMessageHandler s_previous = nullptr;
 };
 
-//! Counts the pixels of the image that have exactly this colour.
 //! Expands every category one by one, as a user's clicks would, so that the
 //! view's expanded() signal runs for each and the editors below it open.
 inline void expandEveryCategory(QTreeView* view, const QModelIndex& parent)
@@ -166,6 +165,7 @@ inline void expandEveryCategory(QTreeView* view, const QModelIndex& parent)
     }
 }
 
+//! Counts the pixels of the image that have exactly this colour.
 inline int countPixels(const QImage& image, const QColor& colour)
 {
     const QRgb wanted = colour.rgb();
