@@ -656,6 +656,7 @@ private slots:
     void accessModeRefused_data();
     void accessModeRefused();
     void anyRootAndItemNamesWork();
+    void undeclaredPrefixIsPartOfTheName();
     void firstOfTwoElementsWins();
     void visibilityBeforeAccessMode();
     void laterItemWinsPerProperty();
@@ -1282,6 +1283,26 @@ void TestNodeMapFilter::anyRootAndItemNamesWork()
     QCOMPARE(collection->log,
         QStringList({ "get First", "set First Visibility=Expert", "get Second", "set Second Visibility=Guru",
             "set Second AccessMode=RO", "get Deep", "set Deep Visibility=Invisible" }));
+    verifyMessages();
+}
+
+void TestNodeMapFilter::undeclaredPrefixIsPartOfTheName()
+{
+    // Namespaces are not processed: a prefix nobody declared is no error, it
+    // is just part of the tag. "p:Name" is therefore not "Name".
+    writeBeside(QStringLiteral("GEV_NmfItems_Filter.xml"),
+        "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
+        "<Filter>\n"
+        "  <N:ame/>\n"
+        "  <y:Item><Name>Prefixed</Name><Visibility>Guru</Visibility></y:Item>\n"
+        "  <Feature><p:Name>NotAName</p:Name><Name>Plain</Name><AccessMode>RO</AccessMode></Feature>\n"
+        "</Filter>\n");
+    // <N:ame/> is an item without a name.
+    expect(QtDebugMsg, QStringLiteral("processElement: failed to get the name of a filter item"));
+    auto collection = QSharedPointer<FakeCollection>::create();
+    QVERIFY(NodeMapFilter::applyFilter(collection, camera(QStringLiteral("GEV")), QStringLiteral("@NmfItems")));
+    QCOMPARE(collection->log,
+        QStringList({ "get Prefixed", "set Prefixed Visibility=Guru", "get Plain", "set Plain AccessMode=RO" }));
     verifyMessages();
 }
 

@@ -133,7 +133,10 @@ bool parseFilterFile(QFile& file, const QString& path, QDomDocument& document)
         return false;
     }
 
+    // Without namespace processing, as the screening above reads it: an
+    // undeclared prefix such as <N:ame/> is just part of a tag's name.
     QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
     QString error;
     int errorLine = 0;
     int errorColumn = 0;
