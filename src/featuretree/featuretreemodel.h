@@ -170,6 +170,7 @@ private:
     void updateFavoritesRootToolTip();
     void syncPersistentIndexes();
     bool isItemOfBuiltTree(const FeatureTreeItem* candidate) const;
+    int unfilledCategoryShowsFeature(const QModelIndex& index, int level) const;
 
     FeatureTreeItem* m_root; // owned
     FeatureTreeItem* m_favoritesRoot = nullptr; // owned through m_root

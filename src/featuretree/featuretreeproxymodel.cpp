@@ -373,6 +373,16 @@ bool FeatureTreeProxyModel::hasAcceptedChildren(int sourceRow, const QModelIndex
     const QModelIndex index = source->index(sourceRow, 0, sourceParent);
     if (!index.isValid())
         return false;
+    // With nothing searched, a category whose level isn't filled yet is
+    // answered by its model from the parameters, and stays unfilled until it
+    // is shown. (A search reads every feature anyway, and counts them.)
+    if (!m_countingWalk && m_patternCached && m_pattern.isFixedString() && m_pattern.text().isEmpty()
+        && source->metaObject() == &FeatureTreeModel::staticMetaObject) {
+        const int shows
+            = static_cast<const FeatureTreeModel*>(source)->unfilledCategoryShowsFeature(index, m_visibility);
+        if (shows >= 0)
+            return shows == 1;
+    }
     const int rows = source->rowCount(index);
     if (rows <= 0)
         return false;
