@@ -541,6 +541,7 @@ private slots:
     void emptyTextIsTheLevelFilter();
     void unfilledCategoriesShowAsTheirItemsWould_data();
     void unfilledCategoriesShowAsTheirItemsWould();
+    void levelsAskedForDuringAChangeAreFilledAfterIt();
     void filterKeyColumnIsNotConsulted();
     void descendantsOfAHitStayVisible();
     void childrenOfALevelAreTriedBeforeAnyIsDescendedInto();
@@ -1699,6 +1700,61 @@ void TestFeatureTreeProxyModel::unfilledCategoriesShowAsTheirItemsWould()
     for (const char* never : { "Empty", "NestedEmpty", "NestedInvisibleCategory", "OnlyFailing", "OnlyNullData",
              "FailingCategory", "DeepEmpty" })
         QVERIFY2(!shows(never), never);
+}
+
+void TestFeatureTreeProxyModel::levelsAskedForDuringAChangeAreFilledAfterIt()
+{
+    SearchTree tree(hollowCamera);
+    QVERIFY(tree.device);
+    breakHollowCamera(*tree.device);
+    tree.add(camera);
+    tree.proxy.invalidate();
+
+    // Like QAbstractItemModelTester, a receiver that walks the whole proxy
+    // whenever it changes, and notes any change that begins inside another.
+    int depth = 0;
+    QStringList nested;
+    const auto begins = [&](const char* what) {
+        if (depth > 0)
+            nested << QLatin1String(what);
+        ++depth;
+        walk(tree.proxy);
+    };
+    const auto ends = [&] {
+        walk(tree.proxy);
+        --depth;
+    };
+    connect(&tree.proxy, &QAbstractItemModel::rowsAboutToBeInserted, &tree.proxy, [&] { begins("insertion"); });
+    connect(&tree.proxy, &QAbstractItemModel::rowsInserted, &tree.proxy, ends);
+    connect(&tree.proxy, &QAbstractItemModel::rowsAboutToBeRemoved, &tree.proxy, [&] { begins("removal"); });
+    connect(&tree.proxy, &QAbstractItemModel::rowsRemoved, &tree.proxy, ends);
+    connect(&tree.proxy, &QAbstractItemModel::layoutAboutToBeChanged, &tree.proxy, [&] { begins("layout"); });
+    connect(&tree.proxy, &QAbstractItemModel::layoutChanged, &tree.proxy, ends);
+
+    // "Cases" shows its categories, none of them filled yet. Counting the
+    // rows of the first fills it, and that insertion makes the receiver walk
+    // into the others: their levels wait for the end of the insertion
+    // instead of being announced inside it.
+    const QModelIndex nodeMap = shownIndex(tree.proxy, QStringLiteral("@CameraDevice*Root"));
+    QVERIFY(nodeMap.isValid());
+    const QPersistentModelIndex cases = tree.proxy.index(0, 0, nodeMap);
+    QCOMPARE(cases.data(FeatureTreeItem::FullNameRole).toString(), QStringLiteral("@CameraDevice/Cases"));
+    const QPersistentModelIndex mixed = tree.proxy.index(0, 0, cases);
+    QCOMPARE(mixed.data(FeatureTreeItem::FullNameRole).toString(), QStringLiteral("@CameraDevice/Mixed"));
+    QCOMPARE(tree.proxy.rowCount(mixed), 2);
+    QCOMPARE(nested, QStringList());
+    QCOMPARE(depth, 0);
+
+    // Once the events are processed every level is there, as in a tree
+    // filled before it was filtered.
+    QCoreApplication::processEvents();
+    QCOMPARE(nested, QStringList());
+    SearchTree filled(hollowCamera);
+    breakHollowCamera(*filled.device);
+    filled.add(camera);
+    fillCompletely(filled.model);
+    filled.proxy.invalidate();
+    QCOMPARE(walk(tree.proxy), walk(filled.proxy));
 }
 
 void TestFeatureTreeProxyModel::filterKeyColumnIsNotConsulted()

@@ -830,6 +830,11 @@ void TestFeatureTreeWidgetLarge::collapsedCategoriesBuildNoFeatureToKnowTheyShow
     tree->expand(first);
     QCoreApplication::processEvents();
     QCOMPARE(proxy->rowCount(first), 5);
+    // Whether each of those has rows to show is known without filling it.
+    for (int row = 0; row < 5; ++row) {
+        QVERIFY(proxy->hasChildren(proxy->index(row, 0, first)));
+        QCOMPARE(proxy->columnCount(proxy->index(row, 0, first)), 2);
+    }
     QCOMPARE(builtFeatures(model->rootItem()), 0);
     const QPersistentModelIndex second = proxy->index(0, 0, first);
     tree->expand(second);

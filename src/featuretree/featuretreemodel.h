@@ -194,5 +194,8 @@ private:
     // items, see FeatureTreeINodeItem::childCount): at zero the proxy knows
     // that asking a row count can't fill anything.
     int m_unfetchedCategories = 0;
+    // While above zero, counting a category's children does not fill it (see
+    // FeatureTreeProxyModel::fillSourceLevel()).
+    int m_fillHolds = 0;
     friend class FeatureTreeINodeItem;
 };
