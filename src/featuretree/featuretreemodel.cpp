@@ -482,7 +482,7 @@ void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
     // had no rows moves no persistent index. Announcing them as an insertion
     // there would nest one change in another, which proxies and views are not
     // made for.
-    const bool announce = !m_layoutChanging;
+    const bool announce = !m_layoutChanging && m_quietFills == 0;
     if (announce)
         beginInsertRows(indexForItem(nodeItem, 0), 0, built.count() - 1);
     // One block of the right size for the list, instead of the slack of growing it.

@@ -197,5 +197,8 @@ private:
     // While above zero, counting a category's children does not fill it (see
     // FeatureTreeProxyModel::fillSourceLevel()).
     int m_fillHolds = 0;
+    // While above zero, a category filled is not announced: the proxy asks
+    // for it so while no one has mapped or counted its rows yet.
+    int m_quietFills = 0;
     friend class FeatureTreeINodeItem;
 };

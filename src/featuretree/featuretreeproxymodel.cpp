@@ -164,15 +164,29 @@ bool FeatureTreeProxyModel::fillSourceLevel(const QModelIndex& parent) const
     // rows would be announced inside that change, where no view or tester
     // expects another: such a level is filled once the change is over, and
     // counts no rows until then.
-    if (m_sourceChanges > 0 && sourceParent.isValid()) {
+    const FeatureTreeINodeItem* category = nullptr;
+    if (sourceParent.isValid()) {
         const auto* item = static_cast<const FeatureTreeItem*>(sourceParent.internalPointer());
-        const auto* category = qobject_cast<const FeatureTreeINodeItem*>(item);
-        if (category && !category->m_childrenFetched && category->m_node) {
-            m_levelsToFill.append(QPersistentModelIndex(sourceParent));
-            return false;
-        }
+        category = qobject_cast<const FeatureTreeINodeItem*>(item);
+        if (category && (category->m_childrenFetched || !category->m_node))
+            category = nullptr;
     }
+    if (category && m_sourceChanges > 0) {
+        m_levelsToFill.append(QPersistentModelIndex(sourceParent));
+        return false;
+    }
+    // A level that nothing has mapped or counted yet is filled without an
+    // announcement: announced, it would reach the views as an insertion in
+    // the middle of the very layout that asks for it (a view expanding the
+    // category), and each would lay out the tree again. Only a level that
+    // the base class mapped empty while it waited has rows to announce.
+    auto* model = static_cast<FeatureTreeModel*>(source);
+    const bool quiet = category && !m_levelsToFill.contains(QPersistentModelIndex(sourceParent));
+    if (quiet)
+        ++model->m_quietFills;
     source->rowCount(sourceParent);
+    if (quiet)
+        --model->m_quietFills;
     return true;
 }
 
