@@ -315,7 +315,9 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex& parent) const
         const QModelIndex sourceParent = mapToSource(parent);
         return sourceParent.isValid() && source->hasChildren(sourceParent) && source->columnCount(sourceParent) > 0;
     }
-    fillSourceLevel(parent);
+    if (fillSourceLevel(parent))
+        return QSortFilterProxyModel::hasChildren(parent);
+    const FillHold hold(sourceModel());
     return QSortFilterProxyModel::hasChildren(parent);
 }
 
