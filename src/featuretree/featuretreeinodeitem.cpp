@@ -236,8 +236,7 @@ void FeatureTreeINodeItem::clearChildren()
 
 int FeatureTreeINodeItem::childCount()
 {
-    if (!m_childrenFetched && m_node
-        && !(m_notifiesModel && static_cast<FeatureTreeModel*>(m_extension)->m_fillHolds > 0)) {
+    if (!m_childrenFetched && m_node) {
         // Set first: the model's own row calls during the fill must not fill again,
         // and a fill that failed is not tried again.
         m_childrenFetched = true;
