@@ -99,6 +99,61 @@ const QByteArray foldingCamera = cameraJson(R"(
     { "name": "PlainGain", "type": "Float", "displayName": "Plain Gain", "value": 1, "min": 0, "max": 4 }
 )");
 
+// Categories whose rows show or not only by what lies deeper: features of
+// one visibility each, a feature that isn't implemented, empty categories,
+// an invisible category (left out with everything below it) and features
+// whose parameters fail. Deep1 and Deep2 nest the cases one level down. They
+// lie below "Cases", whose level the model fills as it adds the node map, so
+// that their own levels are not filled yet when the proxy first judges them.
+const QByteArray hollowCamera = cameraJson(R"(
+    { "name": "Root", "type": "Category", "children": ["Cases"] },
+    { "name": "Cases", "type": "Category",
+      "children": ["Mixed", "OnlyExpert", "OnlyGuru", "OnlyInvisible", "OnlyNotImplemented", "Empty",
+                   "NestedEmpty", "NestedGuru", "NestedInvisibleCategory", "OnlyFailing", "OnlyNullData",
+                   "FailingCategory", "Deep1"] },
+    { "name": "Mixed", "type": "Category", "children": ["MixedGuru", "MixedBeginner"] },
+    { "name": "MixedGuru", "type": "Integer", "visibility": "Guru", "value": 1, "min": 0, "max": 9 },
+    { "name": "MixedBeginner", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+    { "name": "OnlyExpert", "type": "Category", "children": ["ExpertValue"] },
+    { "name": "ExpertValue", "type": "Integer", "visibility": "Expert", "value": 1, "min": 0, "max": 9 },
+    { "name": "OnlyGuru", "type": "Category", "children": ["GuruValue"] },
+    { "name": "GuruValue", "type": "Boolean", "visibility": "Guru", "value": true },
+    { "name": "OnlyInvisible", "type": "Category", "children": ["InvisibleValue"] },
+    { "name": "InvisibleValue", "type": "Integer", "visibility": "Invisible", "value": 1, "min": 0, "max": 9 },
+    { "name": "OnlyNotImplemented", "type": "Category", "children": ["MissingValue"] },
+    { "name": "MissingValue", "type": "Integer", "access": "NI", "value": 1, "min": 0, "max": 9 },
+    { "name": "Empty", "type": "Category", "children": [] },
+    { "name": "NestedEmpty", "type": "Category", "children": ["InnerEmpty"] },
+    { "name": "InnerEmpty", "type": "Category", "children": [] },
+    { "name": "NestedGuru", "type": "Category", "children": ["InnerGuru"] },
+    { "name": "InnerGuru", "type": "Category", "children": ["DeepGuruValue"] },
+    { "name": "DeepGuruValue", "type": "Float", "visibility": "Guru", "value": 1, "min": 0, "max": 9 },
+    { "name": "NestedInvisibleCategory", "type": "Category", "children": ["HiddenCategory"] },
+    { "name": "HiddenCategory", "type": "Category", "visibility": "Invisible", "children": ["HiddenValue"] },
+    { "name": "HiddenValue", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+    { "name": "OnlyFailing", "type": "Category", "children": ["FailingValue"] },
+    { "name": "FailingValue", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+    { "name": "OnlyNullData", "type": "Category", "children": ["NullDataValue"] },
+    { "name": "NullDataValue", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+    { "name": "FailingCategory", "type": "Category", "children": ["BrokenCategory"] },
+    { "name": "BrokenCategory", "type": "Category", "children": ["FailingCategoryValue"] },
+    { "name": "FailingCategoryValue", "type": "Integer", "value": 1, "min": 0, "max": 9 },
+    { "name": "Deep1", "type": "Category", "children": ["Deep2", "DeepEmpty"] },
+    { "name": "DeepEmpty", "type": "Category", "children": [] },
+    { "name": "Deep2", "type": "Category", "children": ["DeepExpertValue"] },
+    { "name": "DeepExpertValue", "type": "Integer", "visibility": "Expert", "value": 1, "min": 0, "max": 9 }
+)");
+
+//! Makes hollowCamera's failing parameters fail.
+void breakHollowCamera(Simulation::SimulatedDevice& device)
+{
+    device.injectFault(QStringLiteral("@CameraDevice/FailingValue"), Simulation::Operation::IsZombie,
+        Simulation::FaultKind::StdException);
+    device.setNullSnapshot(QStringLiteral("@CameraDevice/NullDataValue"), true);
+    device.injectFault(QStringLiteral("@CameraDevice/BrokenCategory"), Simulation::Operation::GetType,
+        Simulation::FaultKind::NonStdException);
+}
+
 FavoritesData& store()
 {
     return FeatureTreeModel::m_favorites;
@@ -484,6 +539,9 @@ private slots:
     void searchHelpItemPassesByItsOwnVisibility();
     void emptyTextIsTheLevelFilter_data();
     void emptyTextIsTheLevelFilter();
+    void unfilledCategoriesShowAsTheirItemsWould_data();
+    void unfilledCategoriesShowAsTheirItemsWould();
+    void levelsAskedForDuringAChangeAreFilledAfterIt();
     void filterKeyColumnIsNotConsulted();
     void descendantsOfAHitStayVisible();
     void childrenOfALevelAreTriedBeforeAnyIsDescendedInto();
@@ -1577,6 +1635,126 @@ void TestFeatureTreeProxyModel::emptyTextIsTheLevelFilter()
         { features - 2, 0 }, { features, 0 } };
     QCOMPARE(tree.proxy.getVisibleMatchCount(), expected[level][0]);
     QCOMPARE(tree.proxy.getInvisibleMatchCount(), expected[level][1]);
+}
+
+void TestFeatureTreeProxyModel::unfilledCategoriesShowAsTheirItemsWould_data()
+{
+    QTest::addColumn<GenApi::EVisibility>("level");
+    for (GenApi::EVisibility level : allLevels)
+        QTest::newRow(levelName(level)) << level;
+}
+
+void TestFeatureTreeProxyModel::unfilledCategoriesShowAsTheirItemsWould()
+{
+    QFETCH(GenApi::EVisibility, level);
+
+    // Whether a category shows depends on what lies below it. Before a
+    // category's level is filled, that is read from the parameters; after,
+    // from its items. Both must come to the same rows.
+    const auto shownRows = [&](bool fillFirst, int* builtBelowCategories) {
+        SearchTree tree(hollowCamera);
+        breakHollowCamera(*tree.device);
+        tree.add(camera);
+        tree.proxy.setVisibility(level);
+        if (fillFirst)
+            fillCompletely(tree.model);
+        tree.proxy.setFilterFixedString(QString());
+        tree.proxy.invalidate();
+        QModelIndex nodeMap;
+        for (int row = 0; row < tree.proxy.rowCount(); ++row) {
+            const QModelIndex index = tree.proxy.index(row, 0);
+            if (index.data(FeatureTreeItem::FullNameRole).toString().endsWith(QLatin1String("*Root")))
+                nodeMap = index;
+        }
+        if (!nodeMap.isValid())
+            return QStringList();
+        // Mapping the first category's children judges each of them.
+        const QModelIndex first = tree.proxy.index(0, 0, nodeMap);
+        tree.proxy.rowCount(first);
+        *builtBelowCategories = 0;
+        const FeatureTreeItem* firstItem = itemAt(tree.proxy.mapToSource(first));
+        for (int row = 0; row < firstItem->builtChildCount(); ++row)
+            *builtBelowCategories += firstItem->child(row)->builtChildCount();
+        return walk(tree.proxy);
+    };
+    int unfilledBuilt = -1;
+    const QStringList fromParameters = shownRows(false, &unfilledBuilt);
+    // Every category was judged before its level was filled: the comparison
+    // is not between two walks over the same items.
+    QCOMPARE(unfilledBuilt, 0);
+    int filledBuilt = -1;
+    const QStringList fromItems = shownRows(true, &filledBuilt);
+    QVERIFY2(filledBuilt > 4, qPrintable(QString::number(filledBuilt)));
+    QVERIFY(fromItems.size() > 3);
+    QCOMPARE(fromParameters, fromItems);
+
+    const auto shows
+        = [&](const char* name) { return fromItems.contains(QStringLiteral("@CameraDevice/") + QLatin1String(name)); };
+    QVERIFY(shows("Mixed"));
+    QCOMPARE(shows("OnlyExpert"), level >= GenApi::Expert);
+    QCOMPARE(shows("OnlyGuru"), level >= GenApi::Guru);
+    QCOMPARE(shows("NestedGuru"), level >= GenApi::Guru);
+    QCOMPARE(shows("OnlyInvisible"), level == GenApi::Invisible);
+    QCOMPARE(shows("OnlyNotImplemented"), level == GenApi::Invisible);
+    QCOMPARE(shows("Deep1"), level >= GenApi::Expert);
+    for (const char* never : { "Empty", "NestedEmpty", "NestedInvisibleCategory", "OnlyFailing", "OnlyNullData",
+             "FailingCategory", "DeepEmpty" })
+        QVERIFY2(!shows(never), never);
+}
+
+void TestFeatureTreeProxyModel::levelsAskedForDuringAChangeAreFilledAfterIt()
+{
+    SearchTree tree(hollowCamera);
+    QVERIFY(tree.device);
+    breakHollowCamera(*tree.device);
+    tree.add(camera);
+    tree.proxy.invalidate();
+
+    // Like QAbstractItemModelTester, a receiver that walks the whole proxy
+    // whenever it changes, and notes any change that begins inside another.
+    int depth = 0;
+    QStringList nested;
+    const auto begins = [&](const char* what) {
+        if (depth > 0)
+            nested << QLatin1String(what);
+        ++depth;
+        walk(tree.proxy);
+    };
+    const auto ends = [&] {
+        walk(tree.proxy);
+        --depth;
+    };
+    connect(&tree.proxy, &QAbstractItemModel::rowsAboutToBeInserted, &tree.proxy, [&] { begins("insertion"); });
+    connect(&tree.proxy, &QAbstractItemModel::rowsInserted, &tree.proxy, ends);
+    connect(&tree.proxy, &QAbstractItemModel::rowsAboutToBeRemoved, &tree.proxy, [&] { begins("removal"); });
+    connect(&tree.proxy, &QAbstractItemModel::rowsRemoved, &tree.proxy, ends);
+    connect(&tree.proxy, &QAbstractItemModel::layoutAboutToBeChanged, &tree.proxy, [&] { begins("layout"); });
+    connect(&tree.proxy, &QAbstractItemModel::layoutChanged, &tree.proxy, ends);
+
+    // "Cases" shows its categories, none of them filled yet. Counting the
+    // rows of the first fills it, and that insertion makes the receiver walk
+    // into the others: their levels wait for the end of the insertion
+    // instead of being announced inside it.
+    const QModelIndex nodeMap = shownIndex(tree.proxy, QStringLiteral("@CameraDevice*Root"));
+    QVERIFY(nodeMap.isValid());
+    const QPersistentModelIndex cases = tree.proxy.index(0, 0, nodeMap);
+    QCOMPARE(cases.data(FeatureTreeItem::FullNameRole).toString(), QStringLiteral("@CameraDevice/Cases"));
+    const QPersistentModelIndex mixed = tree.proxy.index(0, 0, cases);
+    QCOMPARE(mixed.data(FeatureTreeItem::FullNameRole).toString(), QStringLiteral("@CameraDevice/Mixed"));
+    QCOMPARE(tree.proxy.rowCount(mixed), 2);
+    QCOMPARE(nested, QStringList());
+    QCOMPARE(depth, 0);
+
+    // Once the events are processed every level is there, as in a tree
+    // filled before it was filtered.
+    QCoreApplication::processEvents();
+    QCOMPARE(nested, QStringList());
+    SearchTree filled(hollowCamera);
+    breakHollowCamera(*filled.device);
+    filled.add(camera);
+    fillCompletely(filled.model);
+    filled.proxy.invalidate();
+    QCOMPARE(walk(tree.proxy), walk(filled.proxy));
 }
 
 void TestFeatureTreeProxyModel::filterKeyColumnIsNotConsulted()

@@ -7,6 +7,8 @@
 
 #include "featuretree/SearchEdit.h"
 #include "featuretree/favoritesdata.h"
+#include "featuretree/featuretreeinodeitem.h"
+#include "featuretree/featuretreemodel.h"
 #include "featuretree/featuretreeview.h"
 #include "featuretree/featuretreewidget.h"
 #include "syntheticnodemapgenerator.h"
@@ -126,6 +128,7 @@ private slots:
     void changesWhileEditorsWait_data();
     void changesWhileEditorsWait();
     void rowsInSightOpenFirstWhereverTheViewIs();
+    void collapsedCategoriesBuildNoFeatureToKnowTheyShow();
 
 private:
     static SearchEdit* searchLine(FeatureTreeWidget& widget) { return widget.findChild<SearchEdit*>("filterEdit"); }
@@ -772,6 +775,76 @@ void TestFeatureTreeWidgetLarge::changesWhileEditorsWait()
     const EditorCensus result = census(*tree);
     QCOMPARE(result.missing, QStringList());
     QCOMPARE(result.extra, QStringList());
+}
+
+//! How many features (items without children) the model has built so far.
+int builtFeatures(const FeatureTreeItem* item)
+{
+    int count = 0;
+    for (int row = 0; row < item->builtChildCount(); ++row) {
+        const FeatureTreeItem* child = item->child(row);
+        if (qobject_cast<const FeatureTreeINodeItem*>(child) && !child->hasChildren())
+            ++count;
+        count += builtFeatures(child);
+    }
+    return count;
+}
+
+void TestFeatureTreeWidgetLarge::collapsedCategoriesBuildNoFeatureToKnowTheyShow()
+{
+    std::unique_ptr<FeatureTreeWidget> widget;
+    makeWidget(widget, false);
+    FeatureTreeView* tree = view(*widget);
+    auto* proxy = qobject_cast<QSortFilterProxyModel*>(tree->model());
+    QVERIFY(proxy);
+    auto* model = qobject_cast<FeatureTreeModel*>(proxy->sourceModel());
+    QVERIFY(model);
+
+    // Asked anew after each change: a change of level drops the proxy's indexes.
+    const auto nodeMapRow = [proxy] {
+        for (int row = 0; row < proxy->rowCount(); ++row) {
+            const QModelIndex index = proxy->index(row, 0);
+            if (index.data(FeatureTreeItem::FullNameRole).toString().endsWith(QLatin1String("*Root")))
+                return index;
+        }
+        return QModelIndex();
+    };
+
+    // Shown and painted, every category collapsed: the rows of the first
+    // levels show, and whether each category has something to show was
+    // found without building one of the 600 features below them.
+    QVERIFY(nodeMapRow().isValid());
+    QCOMPARE(proxy->rowCount(nodeMapRow()), 5);
+    QCOMPARE(proxy->rowCount(proxy->index(0, 0, nodeMapRow())), 5);
+    QCOMPARE(builtFeatures(model->rootItem()), 0);
+
+    // A new level judges the categories again, still from the parameters.
+    widget->setVisibility(GenApi::Beginner);
+    QCoreApplication::processEvents();
+    QCOMPARE(proxy->rowCount(nodeMapRow()), 5);
+    QCOMPARE(builtFeatures(model->rootItem()), 0);
+
+    // Expanding a category shows its categories, each judged the same way;
+    // expanding one of those builds its own features and no others.
+    const QPersistentModelIndex first = proxy->index(0, 0, nodeMapRow());
+    tree->expand(first);
+    QCoreApplication::processEvents();
+    QCOMPARE(proxy->rowCount(first), 5);
+    // Whether each of those has rows to show is known without filling it.
+    for (int row = 0; row < 5; ++row) {
+        QVERIFY(proxy->hasChildren(proxy->index(row, 0, first)));
+        QCOMPARE(proxy->columnCount(proxy->index(row, 0, first)), 2);
+    }
+    QCOMPARE(builtFeatures(model->rootItem()), 0);
+    // Its rows come with the expansion's own layout, not as an insertion in
+    // the middle of it.
+    const QPersistentModelIndex second = proxy->index(0, 0, first);
+    QSignalSpy inserted(proxy, &QAbstractItemModel::rowsInserted);
+    tree->expand(second);
+    QCOMPARE(inserted.count(), 0);
+    QVERIFY(letEditorsOpen());
+    QVERIFY(proxy->rowCount(second) > 0);
+    QCOMPARE(builtFeatures(model->rootItem()), 600 / 25);
 }
 
 void TestFeatureTreeWidgetLarge::rowsInSightOpenFirstWhereverTheViewIs()

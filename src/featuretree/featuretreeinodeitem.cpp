@@ -236,7 +236,8 @@ void FeatureTreeINodeItem::clearChildren()
 
 int FeatureTreeINodeItem::childCount()
 {
-    if (!m_childrenFetched && m_node) {
+    if (!m_childrenFetched && m_node
+        && !(m_notifiesModel && static_cast<FeatureTreeModel*>(m_extension)->m_fillHolds > 0)) {
         // Set first: the model's own row calls during the fill must not fill again,
         // and a fill that failed is not tried again.
         m_childrenFetched = true;

@@ -362,6 +362,78 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
     }
 }
 
+// For a category whose level isn't filled yet: 1 if some feature below it
+// passes the empty search at `level`, 0 if none does, -1 when the index is not
+// such a category (its items must be asked).
+//
+// The answer comes from the parameters, read as addChildren() and the items
+// would read them, without building a single item: filtering the categories
+// whose rows a view keeps (the spanned rows of the first levels, see
+// refreshSpecialItems()) built all their levels before the first paint, most
+// of the tree on a large camera. The walk usually ends at the first feature.
+int FeatureTreeModel::unfilledCategoryShowsFeature(const QModelIndex& index, int level) const
+{
+    const FeatureTreeItem* item = itemFromIndex(index);
+    if (!index.isValid() || !item || item->metaObject() != &FeatureTreeINodeItem::staticMetaObject)
+        return -1;
+    const auto* category = static_cast<const FeatureTreeINodeItem*>(item);
+    if (category->m_childrenFetched || !category->m_node)
+        return -1;
+    const QSharedPointer<IParameterCollection> collection = category->collection();
+    if (!collection)
+        return 0;
+    // As the proxy judges a feature's item for the empty search.
+    const auto passes = [level](const ParameterData& data) {
+        const bool showMe = data.implemented && data.visibility <= GenApi::Guru;
+        return (showMe || level == GenApi::Invisible) && data.visibility <= level;
+    };
+    QStringList pending;
+    try {
+        pending.append(category->m_node->getFullName());
+    } catch (...) {
+        return 0;
+    }
+    while (!pending.isEmpty()) {
+        const QString parentName = pending.takeLast();
+        QList<QString> names;
+        try {
+            names = collection->getChildNames(parentName, false, true);
+        } catch (...) {
+            continue;
+        }
+        for (const QString& name : qAsConst(names)) {
+            try {
+                const QSharedPointer<IParameter> parameter = collection->getParameter(name);
+                if (!parameter || parameter->isZombie())
+                    continue;
+                if (parameter->getType() == TypeCategory && parameter->getVisibility() > GenApi::Guru)
+                    continue;
+                // An item that can't read its data shows a placeholder.
+                QSharedPointer<const ParameterData> data;
+                try {
+                    data = parameter->getParameterData();
+                } catch (...) {
+                }
+                if (!data)
+                    data = ParameterData::createPlaceholder();
+                if (data->type == TypeCategory) {
+                    pending.append(parameter->getFullName());
+                    continue;
+                }
+                // A node map's root is never a hit; an item reads the name
+                // only from a parameter with advanced access.
+                if (parameter->getName() == QLatin1String("Root") && parameter->advancedAccess())
+                    continue;
+                if (passes(*data))
+                    return 1;
+            } catch (...) {
+                // The item would not be built, or would show nothing.
+            }
+        }
+    }
+    return 0;
+}
+
 void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
 {
     if (!nodeItem || !nodeItem->node())
@@ -410,7 +482,7 @@ void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
     // had no rows moves no persistent index. Announcing them as an insertion
     // there would nest one change in another, which proxies and views are not
     // made for.
-    const bool announce = !m_layoutChanging;
+    const bool announce = !m_layoutChanging && m_quietFills == 0;
     if (announce)
         beginInsertRows(indexForItem(nodeItem, 0), 0, built.count() - 1);
     // One block of the right size for the list, instead of the slack of growing it.

@@ -170,6 +170,7 @@ private:
     void updateFavoritesRootToolTip();
     void syncPersistentIndexes();
     bool isItemOfBuiltTree(const FeatureTreeItem* candidate) const;
+    int unfilledCategoryShowsFeature(const QModelIndex& index, int level) const;
 
     FeatureTreeItem* m_root; // owned
     FeatureTreeItem* m_favoritesRoot = nullptr; // owned through m_root
@@ -193,5 +194,11 @@ private:
     // items, see FeatureTreeINodeItem::childCount): at zero the proxy knows
     // that asking a row count can't fill anything.
     int m_unfetchedCategories = 0;
+    // While above zero, counting a category's children does not fill it (see
+    // FeatureTreeProxyModel::fillSourceLevel()).
+    int m_fillHolds = 0;
+    // While above zero, a category filled is not announced: the proxy asks
+    // for it so while no one has mapped or counted its rows yet.
+    int m_quietFills = 0;
     friend class FeatureTreeINodeItem;
 };

@@ -143,36 +143,181 @@ const FeatureTreeModel* FeatureTreeProxyModel::getFeatureTreeModel() const
 
 // ---- filtering -----------------------------------------------------------
 
-void FeatureTreeProxyModel::fillSourceLevel(const QModelIndex& parent) const
+bool FeatureTreeProxyModel::fillSourceLevel(const QModelIndex& parent) const
 {
     QAbstractItemModel* source = sourceModel();
     if (!source)
-        return;
+        return true;
     // A view asks this for every row it walks. Once a FeatureTreeModel has
     // fetched every category it has nothing left to fill, and the mapping of
     // the parent to the source (about a tenth of a search keystroke on a large
     // tree) is spared.
-    if (source->metaObject() == &FeatureTreeModel::staticMetaObject
-        && static_cast<const FeatureTreeModel*>(source)->m_unfetchedCategories == 0)
+    if (source->metaObject() != &FeatureTreeModel::staticMetaObject) {
+        source->rowCount(mapToSource(parent));
+        return true;
+    }
+    if (static_cast<const FeatureTreeModel*>(source)->m_unfetchedCategories == 0)
+        return true;
+    const QModelIndex sourceParent = mapToSource(parent);
+    // A category that shows may not be filled yet (see hasAcceptedChildren()).
+    // Filled while the source or this proxy is in the middle of a change, its
+    // rows would be announced inside that change, where no view or tester
+    // expects another: such a level is filled once the change is over, and
+    // counts no rows until then.
+    const FeatureTreeINodeItem* category = nullptr;
+    if (sourceParent.isValid()) {
+        const auto* item = static_cast<const FeatureTreeItem*>(sourceParent.internalPointer());
+        category = qobject_cast<const FeatureTreeINodeItem*>(item);
+        if (category && (category->m_childrenFetched || !category->m_node))
+            category = nullptr;
+    }
+    if (category && m_sourceChanges > 0) {
+        m_levelsToFill.append(QPersistentModelIndex(sourceParent));
+        return false;
+    }
+    // A level that nothing has mapped or counted yet is filled without an
+    // announcement: announced, it would reach the views as an insertion in
+    // the middle of the very layout that asks for it (a view expanding the
+    // category), and each would lay out the tree again. Only a level that
+    // the base class mapped empty while it waited has rows to announce.
+    auto* model = static_cast<FeatureTreeModel*>(source);
+    const bool quiet = category && !m_levelsToFill.contains(QPersistentModelIndex(sourceParent));
+    if (quiet)
+        ++model->m_quietFills;
+    source->rowCount(sourceParent);
+    if (quiet)
+        --model->m_quietFills;
+    return true;
+}
+
+// Keeps a FeatureTreeModel from filling levels for the length of a scope.
+class FeatureTreeProxyModel::FillHold
+{
+public:
+    explicit FillHold(const QAbstractItemModel* source)
+        : m_model(source && source->metaObject() == &FeatureTreeModel::staticMetaObject
+                ? const_cast<FeatureTreeModel*>(static_cast<const FeatureTreeModel*>(source))
+                : nullptr)
+    {
+        if (m_model)
+            ++m_model->m_fillHolds;
+    }
+    ~FillHold()
+    {
+        if (m_model)
+            --m_model->m_fillHolds;
+    }
+    FillHold(const FillHold&) = delete;
+    FillHold& operator=(const FillHold&) = delete;
+
+private:
+    FeatureTreeModel* m_model;
+};
+
+void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel* model)
+{
+    for (const QMetaObject::Connection& connection : qAsConst(m_changeConnections))
+        disconnect(connection);
+    m_changeConnections.clear();
+    m_sourceChanges = 0;
+    m_levelsToFill.clear();
+    // The start of each change is seen before the base class handles it, and
+    // its end after: connected before and after the base class connects.
+    const auto begins = [this] { ++m_sourceChanges; };
+    const auto ends = [this] { sourceChangeEnds(); };
+    if (model) {
+        m_changeConnections << connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, begins)
+                            << connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, begins)
+                            << connect(model, &QAbstractItemModel::rowsAboutToBeMoved, this, begins)
+                            << connect(model, &QAbstractItemModel::columnsAboutToBeInserted, this, begins)
+                            << connect(model, &QAbstractItemModel::columnsAboutToBeRemoved, this, begins)
+                            << connect(model, &QAbstractItemModel::columnsAboutToBeMoved, this, begins)
+                            << connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this, begins)
+                            << connect(model, &QAbstractItemModel::modelAboutToBeReset, this, begins)
+                            << connect(model, &QAbstractItemModel::dataChanged, this, begins);
+    }
+    QSortFilterProxyModel::setSourceModel(model);
+    if (model) {
+        m_changeConnections << connect(model, &QAbstractItemModel::rowsInserted, this, ends)
+                            << connect(model, &QAbstractItemModel::rowsRemoved, this, ends)
+                            << connect(model, &QAbstractItemModel::rowsMoved, this, ends)
+                            << connect(model, &QAbstractItemModel::columnsInserted, this, ends)
+                            << connect(model, &QAbstractItemModel::columnsRemoved, this, ends)
+                            << connect(model, &QAbstractItemModel::columnsMoved, this, ends)
+                            << connect(model, &QAbstractItemModel::layoutChanged, this, ends)
+                            << connect(model, &QAbstractItemModel::modelReset, this, ends)
+                            << connect(model, &QAbstractItemModel::dataChanged, this, ends);
+    }
+}
+
+void FeatureTreeProxyModel::sourceChangeEnds()
+{
+    if (m_sourceChanges > 0)
+        --m_sourceChanges;
+    if (m_sourceChanges > 0 || m_levelsToFill.isEmpty() || m_fillPosted)
         return;
-    source->rowCount(mapToSource(parent));
+    // Posted: the source may still be telling others of the change.
+    m_fillPosted = true;
+    QMetaObject::invokeMethod(
+        this, [this] { fillWaitingLevels(); }, Qt::QueuedConnection);
+}
+
+void FeatureTreeProxyModel::fillWaitingLevels()
+{
+    m_fillPosted = false;
+    if (m_sourceChanges > 0)
+        return; // the end of that change posts again
+    QAbstractItemModel* source = sourceModel();
+    const QList<QPersistentModelIndex> levels = m_levelsToFill;
+    m_levelsToFill.clear();
+    for (const QPersistentModelIndex& level : levels) {
+        if (source && level.isValid() && level.model() == source)
+            source->rowCount(level);
+    }
 }
 
 QModelIndex FeatureTreeProxyModel::index(int row, int column, const QModelIndex& parent) const
 {
-    fillSourceLevel(parent);
+    if (fillSourceLevel(parent))
+        return QSortFilterProxyModel::index(row, column, parent);
+    // The level waits: the base class maps it as it stands, empty.
+    const FillHold hold(sourceModel());
     return QSortFilterProxyModel::index(row, column, parent);
 }
 
 int FeatureTreeProxyModel::rowCount(const QModelIndex& parent) const
 {
-    fillSourceLevel(parent);
+    if (fillSourceLevel(parent))
+        return QSortFilterProxyModel::rowCount(parent);
+    const FillHold hold(sourceModel());
     return QSortFilterProxyModel::rowCount(parent);
+}
+
+int FeatureTreeProxyModel::columnCount(const QModelIndex& parent) const
+{
+    // The base class would map the parent to answer, and so fill its level;
+    // every column passes, so the source's count is the answer.
+    const QAbstractItemModel* source = sourceModel();
+    if (parent.isValid() && source && source->metaObject() == &FeatureTreeModel::staticMetaObject)
+        return source->columnCount(mapToSource(parent));
+    return QSortFilterProxyModel::columnCount(parent);
 }
 
 bool FeatureTreeProxyModel::hasChildren(const QModelIndex& parent) const
 {
-    fillSourceLevel(parent);
+    // A row that shows has a child that shows whenever its source row has
+    // children: a category shows only for a descendant that passes, and the
+    // descendants of a hit pass with it. So the level need not be filled, nor
+    // its rows filtered, to answer: a view asks this of every row it lays out.
+    const QAbstractItemModel* source = sourceModel();
+    if (parent.isValid() && !m_addingCollection && source
+        && source->metaObject() == &FeatureTreeModel::staticMetaObject) {
+        const QModelIndex sourceParent = mapToSource(parent);
+        return sourceParent.isValid() && source->hasChildren(sourceParent) && source->columnCount(sourceParent) > 0;
+    }
+    if (fillSourceLevel(parent))
+        return QSortFilterProxyModel::hasChildren(parent);
+    const FillHold hold(sourceModel());
     return QSortFilterProxyModel::hasChildren(parent);
 }
 
@@ -373,6 +518,16 @@ bool FeatureTreeProxyModel::hasAcceptedChildren(int sourceRow, const QModelIndex
     const QModelIndex index = source->index(sourceRow, 0, sourceParent);
     if (!index.isValid())
         return false;
+    // With nothing searched, a category whose level isn't filled yet is
+    // answered by its model from the parameters, and stays unfilled until it
+    // is shown. (A search reads every feature anyway, and counts them.)
+    if (!m_countingWalk && m_patternCached && m_pattern.isFixedString() && m_pattern.text().isEmpty()
+        && source->metaObject() == &FeatureTreeModel::staticMetaObject) {
+        const int shows
+            = static_cast<const FeatureTreeModel*>(source)->unfilledCategoryShowsFeature(index, m_visibility);
+        if (shows >= 0)
+            return shows == 1;
+    }
     const int rows = source->rowCount(index);
     if (rows <= 0)
         return false;

@@ -59,8 +59,13 @@ public:
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
     //! The base class's row count, after the source level below parent is filled.
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
-    //! The base class's answer, after the source level below parent is filled.
+    //! For a row: whether its source row has children, since a row that shows
+    //! has a child that shows; fills nothing. The base class's answer for the root.
     bool hasChildren(const QModelIndex& parent = QModelIndex()) const override;
+    //! The source's column count for a row, the base class's for the root; fills nothing.
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    //! Also follows when the source is in the middle of a change (see fillSourceLevel()).
+    void setSourceModel(QAbstractItemModel* sourceModel) override;
 
     /*!
      * Features that matched the search and show at the present level, each
@@ -149,8 +154,10 @@ private slots:
     void sourceRowsRemoved();
 
 private:
-    //! Lets the model fill the source level below parent, outside any mapping of the base class.
-    void fillSourceLevel(const QModelIndex& parent) const;
+    //! Lets the model fill the source level below parent, outside any mapping of the base class;
+    //! false if the level must wait for the end of a change of the source.
+    bool fillSourceLevel(const QModelIndex& parent) const;
+    class FillHold;
     //! filterAcceptsRowItself for the row of a source index in column 0.
     bool filterAcceptsIndexItself(const QModelIndex& index) const;
     bool matchesFilter(const QString& text) const;
@@ -229,4 +236,12 @@ private:
     mutable bool m_passDropped = false;
     QMetaObject::Connection m_sourceInserted;
     QMetaObject::Connection m_sourceRemoved;
+    // Changes of the source under way, this proxy's handling of them included.
+    int m_sourceChanges = 0;
+    QList<QMetaObject::Connection> m_changeConnections;
+    // Source levels asked for during a change, filled once it is over.
+    mutable QList<QPersistentModelIndex> m_levelsToFill;
+    mutable bool m_fillPosted = false;
+    void sourceChangeEnds();
+    void fillWaitingLevels();
 };
