@@ -55,6 +55,7 @@ private slots:
     void favouritesByActionsAndDropOutliveTheWidget();
     void levelChangeOnAnUnpluggedCameraIsKept();
     void resetOnAnUnpluggedCameraLeavesNoWaitCursor();
+    void rowsExpandedWhileUnpluggedGetTheirEditorsAtARefresh();
     void secondWidgetOnAnUnpluggedCameraIsBuilt();
     void movingTheLastFavouriteDownKeepsIt();
     void clearLeavesNoFreedItemBehindTheViews();
@@ -433,6 +434,38 @@ void TestFeatureTreeWidgetCamera::resetOnAnUnpluggedCameraLeavesNoWaitCursor()
     }
     QVERIFY(!QGuiApplication::overrideCursor());
     m_device->replug();
+}
+
+// The delegate makes no editor for a parameter gone with its device, so the
+// rows a user expands while the camera is away have none. The camera coming
+// back changes no value that would tell the view: the refresh a host makes
+// then (the reset button) gives them their editors.
+void TestFeatureTreeWidgetCamera::rowsExpandedWhileUnpluggedGetTheirEditorsAtARefresh()
+{
+    QTreeView* view = m_widget->treeView();
+    const QPersistentModelIndex reverseX
+        = m_widget->getFeatureExtension()->findItemByFullName(cameraFeature("ReverseX"), nullptr, 1);
+    const QPersistentModelIndex pixelFormat
+        = m_widget->getFeatureExtension()->findItemByFullName(cameraFeature("PixelFormat"), nullptr, 1);
+    QVERIFY(reverseX.isValid());
+    QVERIFY(pixelFormat.isValid());
+    QVERIFY(!view->isExpanded(reverseX.parent()));
+    QVERIFY(!view->indexWidget(reverseX));
+    QVERIFY(!view->indexWidget(pixelFormat));
+
+    m_device->unplug();
+    expandTo(*view, reverseX);
+    expandTo(*view, pixelFormat);
+    QVERIFY(TreeTest::letEditorsOpen());
+    QVERIFY(!view->indexWidget(reverseX));
+    QVERIFY(!view->indexWidget(pixelFormat));
+
+    m_device->replug();
+    m_widget->Refresh();
+    QVERIFY(TreeTest::letEditorsOpen());
+    QVERIFY(qobject_cast<CheckBoxEditor*>(view->indexWidget(reverseX)));
+    QVERIFY(qobject_cast<EnumEditor*>(view->indexWidget(pixelFormat)));
+    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 // The node map filter lets a refusal of the collection through; adding an

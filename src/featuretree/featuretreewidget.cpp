@@ -367,6 +367,12 @@ void FeatureTreeWidget::onCurrentChanged(QModelIndex const& current)
 void FeatureTreeWidget::on_resetButton_clicked()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    // The delegate makes no editor for a parameter gone with its device, so
+    // rows expanded while the camera was away have none, and its return
+    // need not change a value that would tell the view. The end of the bulk
+    // change looks for the editors missing: those in sight open now, the
+    // others in the coming turns of the event loop.
+    featureTreeView()->beginBulkChange();
     // Caught here so that a failing camera leaves neither a crash nor the wait cursor behind.
     if (IFeatureTreeModelExtension* extension = getFeatureExtension()) {
         try {
@@ -375,6 +381,7 @@ void FeatureTreeWidget::on_resetButton_clicked()
             ExceptionLogging::logCurrentException(Q_FUNC_INFO, QStringLiteral("Failed to refresh the features"));
         }
     }
+    featureTreeView()->endBulkChange();
     QGuiApplication::restoreOverrideCursor();
 }
 
