@@ -69,6 +69,17 @@ QString sharedFullName(const IParameter& parameter, const QString& listed)
     return listed;
 }
 
+// Whether addChildren() builds an item for a child: not for a parameter gone
+// with its device, nor for an invisible category, which goes with everything
+// below it. Features of any visibility are built and filtered by the proxy.
+// unfilledCategoryShowsFeature() judges by the same rule. May throw.
+bool buildsItemFor(const QSharedPointer<IParameter>& parameter)
+{
+    if (!parameter || parameter->isZombie())
+        return false;
+    return !(parameter->getType() == TypeCategory && parameter->getVisibility() > GenApi::Guru);
+}
+
 } // namespace
 
 FavoritesData FeatureTreeModel::m_favorites(nullptr);
@@ -404,9 +415,7 @@ int FeatureTreeModel::unfilledCategoryShowsFeature(const QModelIndex& index, int
         for (const QString& name : qAsConst(names)) {
             try {
                 const QSharedPointer<IParameter> parameter = collection->getParameter(name);
-                if (!parameter || parameter->isZombie())
-                    continue;
-                if (parameter->getType() == TypeCategory && parameter->getVisibility() > GenApi::Guru)
+                if (!buildsItemFor(parameter))
                     continue;
                 // An item that can't read its data shows a placeholder.
                 QSharedPointer<const ParameterData> data;
@@ -457,11 +466,7 @@ void FeatureTreeModel::addChildren(FeatureTreeINodeItem* nodeItem)
     for (const QString& name : qAsConst(names)) {
         try {
             const QSharedPointer<IParameter> parameter = collection->getParameter(name);
-            if (!parameter || parameter->isZombie())
-                continue;
-            // Invisible categories go with everything below them; features of any
-            // visibility stay and are filtered by the proxy.
-            if (parameter->getType() == TypeCategory && parameter->getVisibility() > GenApi::Guru)
+            if (!buildsItemFor(parameter))
                 continue;
             const QString fullName = sharedFullName(*parameter, name);
             auto* item = new FeatureTreeINodeItem(collection, parameter, this, fullName, nodeItem, m_textAsUtf8);
