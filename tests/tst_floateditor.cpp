@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include <limits>
+
 using namespace ParameterCollection;
 using Simulation::FaultKind;
 using Simulation::Operation;
@@ -96,6 +98,8 @@ private slots:
     void cleanup();
 
     void showsTheSnapshot();
+    void valuesOfAnySizeAreShownExactly_data();
+    void valuesOfAnySizeAreShownExactly();
     void toolTip_data();
     void toolTip();
     void noIncrementNoStepping();
@@ -148,6 +152,41 @@ void TestFloatEditor::showsTheSnapshot()
     QCOMPARE(editor.incrementField(), 0.5);
     QCOMPARE(editor.editorData(), QVariant(1.5));
     QCOMPARE(editor.editorData().userType(), int(QMetaType::Double));
+    QCOMPARE(log.count(), 0);
+}
+
+// The editor's box starts from a narrower range than double's, which is
+// cheaper to build; a feature's value or limits beyond it must still come
+// through exactly once the snapshot is shown.
+void TestFloatEditor::valuesOfAnySizeAreShownExactly_data()
+{
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<double>("value");
+    const double lowest = std::numeric_limits<double>::lowest();
+    const double highest = std::numeric_limits<double>::max();
+    QTest::newRow("small") << 0.0 << 24.0 << 1.5;
+    QTest::newRow("far above the first range") << -1e30 << 1e30 << 1e25;
+    QTest::newRow("far below it") << -1e30 << 1e30 << -3e22;
+    QTest::newRow("at its edge") << -1e30 << 1e30 << 1e21;
+    QTest::newRow("the largest double") << lowest << highest << highest;
+    QTest::newRow("the lowest double") << lowest << highest << lowest;
+}
+
+void TestFloatEditor::valuesOfAnySizeAreShownExactly()
+{
+    QFETCH(double, minimum);
+    QFETCH(double, maximum);
+    QFETCH(double, value);
+    // The node only stands for a feature: the snapshot brings limits and value.
+    const QSharedPointer<FloatParameterData> snapshot = floatSnapshot(minimum, maximum, value, 0.0);
+    OpenFloatEditor editor;
+    EditorTest::LogRecord log;
+    editor.setEditorData({ EditorTest::editorDataOf(m_device, QStringLiteral("Gain")).node, snapshot });
+    QVERIFY(editor.isInitialized());
+    QCOMPARE(editor.box()->minimum(), minimum);
+    QCOMPARE(editor.box()->maximum(), maximum);
+    QCOMPARE(editor.box()->value(), value);
     QCOMPARE(log.count(), 0);
 }
 

@@ -8,6 +8,11 @@
 #include <QHBoxLayout>
 
 DoubleSpinBox::DoubleSpinBox(QWidget* parent, const QString& representation)
+    : DoubleSpinBox(parent, representation, std::numeric_limits<double>::max())
+{
+}
+
+DoubleSpinBox::DoubleSpinBox(QWidget* parent, const QString& representation, double limit)
     : QWidget(parent)
     , spinBox(new ZarvexQtDoubleSpinBox)
     , eventCatcher(new SpinBoxEventCatcher)
@@ -16,6 +21,9 @@ DoubleSpinBox::DoubleSpinBox(QWidget* parent, const QString& representation)
     layout->setContentsMargins(0, 0, 0, 0);
     setContentsMargins(1, 0, 1, 0);
 
+    // (-DBL_MAX is double's lowest value.)
+    minRangeLimit = -limit;
+    maxRangeLimit = limit;
     spinBox->setRange(minRangeLimit, maxRangeLimit);
     spinBox->setAccelerated(true);
     if (representation == QLatin1String("PureNumber"))

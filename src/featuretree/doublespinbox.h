@@ -84,6 +84,15 @@ public slots:
     void enableUpdate(bool enable);
 
 protected:
+    /*!
+     * Starts from the range -limit..limit instead of the whole of double's,
+     * for a derived editor that sets a feature's own range before the box
+     * is seen. The spin box rounds both limits to its decimals through
+     * their text: for +-DBL_MAX that is some 300 digits each way, and costs
+     * more than the rest of the box's construction.
+     */
+    DoubleSpinBox(QWidget* parent, const QString& representation, double limit);
+
     ZarvexQtDoubleSpinBox* spinBox; //!< the spin box; a child
     SpinBoxEventCatcher* eventCatcher; //!< owned, no parent: deleted by the destructor
     double increment = 0.0; //!< the feature's increment; 0 means none

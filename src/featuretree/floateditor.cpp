@@ -13,10 +13,14 @@ using namespace ParameterCollection;
 
 namespace {
 const char* const SourcePath = "featuretree/floateditor";
+// The box's first range, until setEditorData() sets the feature's. Limits
+// of this size round through a short text; a feature's value beyond them is
+// clamped by initControls() and set again once the feature's range is in.
+constexpr double FirstRangeLimit = 1e21;
 } // namespace
 
 FloatEditor::FloatEditor(QWidget* parent, QString representation)
-    : DoubleSpinBox(parent, representation)
+    : DoubleSpinBox(parent, representation, FirstRangeLimit)
 {
     connect(spinBox, SIGNAL(editingFinished()), this, SLOT(onSpinBoxEditingFinished()));
     connect(spinBox, SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
