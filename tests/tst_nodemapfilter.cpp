@@ -647,6 +647,8 @@ private slots:
     void malformedFileBesideApplicationEndsTheSearch_data();
     void malformedFileBesideApplicationEndsTheSearch();
     void createDocumentParsesTheChosenFile();
+    void fileChangedOnDiskIsReadAgain();
+    void changingACreatedDocumentChangesNoLaterOne();
     void nullInfoGivesNothing();
     void nullCollectionGivesNothing();
 
@@ -1178,6 +1180,52 @@ void TestNodeMapFilter::createDocumentParsesTheChosenFile()
     QVERIFY(NodeMapFilter::createDocument(again, camera(QStringLiteral("ZCON")), QStringLiteral("@CameraDevice")));
     QCOMPARE(again.documentElement().firstChildElement().firstChildElement(QStringLiteral("Name")).text(),
         QStringLiteral("ReadAfresh"));
+    verifyMessages();
+}
+
+void TestNodeMapFilter::fileChangedOnDiskIsReadAgain()
+{
+    // The same bytes twice, then other bytes of the same length in the same
+    // file, then another length: each tree gets what the file says at the
+    // time it is added.
+    const QByteArray guru = filterXml({ { "Gain", "Guru", None } });
+    const QByteArray sameLength = filterXml({ { "Gain", "Gurx", None } });
+    QCOMPARE(sameLength.size(), guru.size());
+    const QList<QPair<QByteArray, QString>> steps {
+        { guru, QStringLiteral("Guru") },
+        { guru, QStringLiteral("Guru") },
+        { sameLength, QStringLiteral("Gurx") },
+        { filterXml({ { "Gain", "Expert", None } }), QStringLiteral("Expert") },
+        { guru, QStringLiteral("Guru") },
+    };
+    for (const auto& step : steps) {
+        writeBeside(QStringLiteral("GEV_NmfItems_Filter.xml"), step.first);
+        auto collection = QSharedPointer<FakeCollection>::create();
+        QVERIFY(NodeMapFilter::applyFilter(collection, camera(QStringLiteral("GEV")), QStringLiteral("@NmfItems")));
+        QCOMPARE(collection->log, QStringList({ "get Gain", "set Gain Visibility=" + step.second }));
+    }
+    verifyMessages();
+}
+
+void TestNodeMapFilter::changingACreatedDocumentChangesNoLaterOne()
+{
+    writeBeside(QStringLiteral("GEV_NmfItems_Filter.xml"), filterXml({ { "Gain", "Guru", None } }));
+    QDomDocument first;
+    QVERIFY(NodeMapFilter::createDocument(first, camera(QStringLiteral("GEV")), QStringLiteral("@NmfItems")));
+    QDomElement name = first.documentElement().firstChildElement().firstChildElement(QStringLiteral("Name"));
+    QCOMPARE(name.text(), QStringLiteral("Gain"));
+    name.firstChild().setNodeValue(QStringLiteral("Changed"));
+    first.documentElement().appendChild(first.createElement(QStringLiteral("Added")));
+
+    QDomDocument second;
+    QVERIFY(NodeMapFilter::createDocument(second, camera(QStringLiteral("GEV")), QStringLiteral("@NmfItems")));
+    const QDomElement item = second.documentElement().firstChildElement();
+    QCOMPARE(item.firstChildElement(QStringLiteral("Name")).text(), QStringLiteral("Gain"));
+    QVERIFY(item.nextSiblingElement().isNull());
+
+    auto collection = QSharedPointer<FakeCollection>::create();
+    QVERIFY(NodeMapFilter::applyFilter(collection, camera(QStringLiteral("GEV")), QStringLiteral("@NmfItems")));
+    QCOMPARE(collection->log, QStringList({ "get Gain", "set Gain Visibility=Guru" }));
     verifyMessages();
 }
 

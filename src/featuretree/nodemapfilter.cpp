@@ -12,6 +12,9 @@
 #include <QDomElement>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QStringList>
 #include <QXmlStreamReader>
 
@@ -108,7 +111,61 @@ bool screenContent(const QByteArray& content, QString* reason, qint64* line, qin
     return true;
 }
 
-//! Reads, screens and parses an opened filter file into document. Closes the file.
+/*!
+ * The filter files parsed before, by path, with the bytes each was parsed
+ * from. A tree is added for every node map of every camera a viewer opens,
+ * and nearly all of them take one of a few filters: parsing one again costs
+ * more than building the first levels of a tree. A file whose bytes differ
+ * from those kept is parsed again. Only documents that parsed are kept.
+ *
+ * The documents kept are read, never changed: applyFilter() reads one
+ * directly, createDocument() hands its caller a copy.
+ */
+class ParsedFilters
+{
+public:
+    static ParsedFilters& instance()
+    {
+        static ParsedFilters filters;
+        return filters;
+    }
+
+    bool find(const QString& path, const QByteArray& content, QDomDocument* document)
+    {
+        QMutexLocker locker(&m_mutex);
+        const auto entry = m_entries.constFind(path);
+        if (entry == m_entries.constEnd() || entry->content != content)
+            return false;
+        *document = entry->document;
+        return true;
+    }
+
+    void keep(const QString& path, const QByteArray& content, const QDomDocument& document)
+    {
+        QMutexLocker locker(&m_mutex);
+        // A handful of filters in any real use; the bound only guards
+        // against a host that writes a new file for every camera.
+        if (m_entries.size() >= MaximumEntries && !m_entries.contains(path))
+            m_entries.clear();
+        m_entries.insert(path, Entry { content, document });
+    }
+
+private:
+    static constexpr int MaximumEntries = 16;
+    struct Entry
+    {
+        QByteArray content;
+        QDomDocument document;
+    };
+    QMutex m_mutex;
+    QHash<QString, Entry> m_entries;
+};
+
+/*!
+ * Reads, screens and parses an opened filter file into document, or takes
+ * the document parsed before from the same bytes. Closes the file. The
+ * document may be shared with the cache: it must not be changed.
+ */
 bool parseFilterFile(QFile& file, const QString& path, QDomDocument& document)
 {
     const QString tooLarge = QStringLiteral("the file is larger than %1 bytes").arg(NodeMapFilter::MaximumFileSize);
@@ -124,6 +181,8 @@ bool parseFilterFile(QFile& file, const QString& path, QDomDocument& document)
         logParseFailure(path, tooLarge, 0, 0);
         return false;
     }
+    if (ParsedFilters::instance().find(path, content, &document))
+        return true;
 
     QString reason;
     qint64 reasonLine = 0;
@@ -144,6 +203,7 @@ bool parseFilterFile(QFile& file, const QString& path, QDomDocument& document)
         logParseFailure(path, error, errorLine, errorColumn);
         return false;
     }
+    ParsedFilters::instance().keep(path, content, document);
     return true;
 }
 
@@ -228,7 +288,7 @@ bool NodeMapFilter::applyFilter(QSharedPointer<ParameterCollection::IParameterCo
         return false;
 
     QDomDocument document;
-    if (!createDocument(document, info, nodeMapName))
+    if (!findDocument(document, std::move(info), nodeMapName))
         return false;
 
     // Every element child is an item, whatever its tag; one bad item never
@@ -240,6 +300,17 @@ bool NodeMapFilter::applyFilter(QSharedPointer<ParameterCollection::IParameterCo
 }
 
 bool NodeMapFilter::createDocument(
+    QDomDocument& document, QSharedPointer<Plugin::CameraPool::IBaseInfo> info, const QString& nodeMapName)
+{
+    QDomDocument shared;
+    if (!findDocument(shared, std::move(info), nodeMapName))
+        return false;
+    // The caller may change its document; the one kept for the next tree must not change.
+    document = shared.cloneNode(true).toDocument();
+    return true;
+}
+
+bool NodeMapFilter::findDocument(
     QDomDocument& document, QSharedPointer<Plugin::CameraPool::IBaseInfo> info, const QString& nodeMapName)
 {
     if (!info)

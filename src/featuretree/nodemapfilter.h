@@ -64,6 +64,15 @@ public:
     static bool createDocument(
         QDomDocument& document, QSharedPointer<Plugin::CameraPool::IBaseInfo> info, const QString& nodeMapName);
 
+private:
+    /*!
+     * createDocument() without the copy: the document may be the one kept
+     * for the next tree that takes the same file, and is only to be read.
+     */
+    static bool findDocument(
+        QDomDocument& document, QSharedPointer<Plugin::CameraPool::IBaseInfo> info, const QString& nodeMapName);
+
+public:
     /*!
      * Imposes one item on collection: visibility first, then access mode.
      * False when the item has no usable name, the feature is unknown or a
