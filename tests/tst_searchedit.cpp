@@ -101,6 +101,7 @@ class TestSearchEdit : public QObject
 private slots:
     void initTestCase();
     void construction();
+    void searchLinesShareTheirPictures();
     void typingSwapsLensForCross_data();
     void typingSwapsLensForCross();
     void clearIconClearsText();
@@ -130,6 +131,19 @@ void TestSearchEdit::showInWindow(QWidget& widget)
     widget.resize(300, 30);
     widget.show();
     QVERIFY(QTest::qWaitForWindowExposed(&widget));
+}
+
+void TestSearchEdit::searchLinesShareTheirPictures()
+{
+    // A viewer makes a tree, and its search line, for each camera it opens:
+    // the pictures are decoded once and shared, not decoded for each line.
+    SearchEdit first;
+    SearchEdit second;
+    QCOMPARE(lensAction(second)->icon().cacheKey(), lensAction(first)->icon().cacheKey());
+    QCOMPARE(clearAction(second)->icon().cacheKey(), clearAction(first)->icon().cacheKey());
+    QVERIFY(lensAction(first)->icon().cacheKey() != clearAction(first)->icon().cacheKey());
+    QVERIFY(lensAction(first)->icon().cacheKey() != QIcon(QLatin1String(lensPath)).cacheKey());
+    QCOMPARE(imageOf(lensAction(second)->icon()), imageOf(QIcon(QLatin1String(lensPath))));
 }
 
 void TestSearchEdit::construction()

@@ -1,5 +1,7 @@
 #include "SearchEdit.h"
 
+#include "resourceicons.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
@@ -16,13 +18,14 @@ SearchEdit::SearchEdit(QWidget* parent)
     connect(this, &QLineEdit::textChanged, this, &SearchEdit::onTextChanged);
 
     // The lens only shows what the line is for: clicking it does nothing.
-    m_searchAction = addAction(
-        QIcon(QStringLiteral(":/zarvexviewercomponents/Resources/searchlens_16.png")), QLineEdit::TrailingPosition);
+    m_searchAction
+        = addAction(ResourceIcons::icon(QStringLiteral(":/zarvexviewercomponents/Resources/searchlens_16.png")),
+            QLineEdit::TrailingPosition);
     m_searchAction->setEnabled(false);
     m_searchAction->setVisible(true);
 
-    m_clearAction = addAction(
-        QIcon(QStringLiteral(":/zarvexviewercomponents/Resources/cross_16.png")), QLineEdit::TrailingPosition);
+    m_clearAction = addAction(ResourceIcons::icon(QStringLiteral(":/zarvexviewercomponents/Resources/cross_16.png")),
+        QLineEdit::TrailingPosition);
     connect(m_clearAction, &QAction::triggered, this, &QLineEdit::clear);
     m_clearAction->setVisible(false);
 

@@ -88,12 +88,17 @@ void FeatureTreeView::onModelLayoutChanged()
 
 IFeatureTreeModelExtension* FeatureTreeView::getFeatureExtension()
 {
-    return dynamic_cast<IFeatureTreeModelExtension*>(model());
+    return const_cast<IFeatureTreeModelExtension*>(qAsConst(*this).getFeatureExtension());
 }
 
 const IFeatureTreeModelExtension* FeatureTreeView::getFeatureExtension() const
 {
-    return dynamic_cast<const IFeatureTreeModelExtension*>(model());
+    // Asked at every changed cell: the proxy the view made itself is known
+    // without the cost of a cross cast; a host's model is asked.
+    const QAbstractItemModel* current = model();
+    if (current && current == m_ownedProxy)
+        return static_cast<const FeatureTreeProxyModel*>(current);
+    return dynamic_cast<const IFeatureTreeModelExtension*>(current);
 }
 
 FeatureTreeHighlighter* FeatureTreeView::getHightlighter()

@@ -9,6 +9,7 @@
 #include "ifeaturetreemodelextension.h"
 #include "messages/exceptionlogging.h"
 #include "nodemapfilter.h"
+#include "resourceicons.h"
 #include "ui_featuretreewidget.h"
 
 #include <QAction>
@@ -32,9 +33,7 @@ bool escapePressedOnce = false;
 
 QIcon resourceIcon(QString const& file)
 {
-    QIcon icon;
-    icon.addFile(QStringLiteral(":/zarvexviewercomponents/Resources/") + file, QSize(), QIcon::Normal, QIcon::Off);
-    return icon;
+    return ResourceIcons::icon(QStringLiteral(":/zarvexviewercomponents/Resources/") + file);
 }
 
 } // namespace
