@@ -4,12 +4,16 @@
 #include "featuretree/featuretreehighlighter.h"
 
 #include <QColor>
+#include <QFile>
+#include <QFileInfo>
 #include <QObject>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QtTest>
 
 #include <type_traits>
+
+#include <sys/stat.h>
 
 using Ranges = QVector<QPair<int, int>>;
 
@@ -57,6 +61,8 @@ private slots:
     void colorIsStoredAsLowerCaseHex_data();
     void colorIsStoredAsLowerCaseHex();
     void colorIsReadOnceAtConstruction();
+    void settingsFileIsLeftAloneWhenItHoldsTheColor_data();
+    void settingsFileIsLeftAloneWhenItHoldsTheColor();
     void otherKeysOfTheGroupAreLeftAlone();
 
     void textToHighlight();
@@ -165,6 +171,38 @@ void TestFeatureTreeHighlighter::colorIsReadOnceAtConstruction()
     FeatureTreeHighlighter second;
     QCOMPARE(second.getHighlightColor().name(), QStringLiteral("#0a0b0c"));
     QCOMPARE(first.getHighlightColor().name(), QStringLiteral("#010203"));
+}
+
+void TestFeatureTreeHighlighter::settingsFileIsLeftAloneWhenItHoldsTheColor_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<bool>("rewritten");
+    QTest::newRow("the default in its form") << "#ffff50" << false;
+    QTest::newRow("another colour in its form") << "#123456" << false;
+    QTest::newRow("upper-case digits") << "#FFFF50" << true;
+    QTest::newRow("a word") << "red" << true;
+    QTest::newRow("no colour") << "nothing" << true;
+}
+
+void TestFeatureTreeHighlighter::settingsFileIsLeftAloneWhenItHoldsTheColor()
+{
+    // Every view makes a highlighter. Writing the same text again would
+    // replace the settings file each time, with a flush to disk.
+    QFETCH(QString, value);
+    QFETCH(bool, rewritten);
+    QSettings().setValue(key, value);
+    const QString path = QSettings().fileName();
+    QVERIFY(QFileInfo::exists(path));
+    struct stat statBefore;
+    QCOMPARE(::stat(QFile::encodeName(path).constData(), &statBefore), 0);
+
+    FeatureTreeHighlighter highlighter;
+    struct stat statAfter;
+    QCOMPARE(::stat(QFile::encodeName(path).constData(), &statAfter), 0);
+    // A rewrite replaces the file with a new one: another inode.
+    QCOMPARE(statAfter.st_ino != statBefore.st_ino, rewritten);
+    QVERIFY(QRegularExpression(QStringLiteral("^#[0-9a-f]{6}$")).match(storedColor()).hasMatch());
+    QCOMPARE(storedColor(), highlighter.getHighlightColor().name());
 }
 
 void TestFeatureTreeHighlighter::otherKeysOfTheGroupAreLeftAlone()

@@ -8,14 +8,19 @@ const char* const defaultHighlightColor = "#ffff50";
 
 FeatureTreeHighlighter::FeatureTreeHighlighter()
 {
+    const QString key = QStringLiteral("HighlightColor");
     QSettings settings;
     settings.beginGroup(QStringLiteral("FeatureTree"));
-    m_highlightColor.setNamedColor(
-        settings.value(QStringLiteral("HighlightColor"), QLatin1String(defaultHighlightColor)).toString());
+    const QVariant stored = settings.value(key);
+    m_highlightColor.setNamedColor(stored.isValid() ? stored.toString() : QLatin1String(defaultHighlightColor));
     if (!m_highlightColor.isValid())
         m_highlightColor.setNamedColor(QLatin1String(defaultHighlightColor));
     // Written back, so that after the first run the key is there to be edited.
-    settings.setValue(QStringLiteral("HighlightColor"), m_highlightColor.name());
+    // A key that holds exactly that text already is left alone: writing it
+    // again would lock, rewrite and flush the whole settings file to disk for
+    // every view made, which costs more than all the rest of a new tree.
+    if (!stored.isValid() || stored.toString() != m_highlightColor.name())
+        settings.setValue(key, m_highlightColor.name());
     settings.endGroup();
 }
 
