@@ -31,8 +31,9 @@
 // With "--search-only 10000" it builds only the feature tree on that many
 // synthetic features and times expanding, the search keystroke and clearing
 // the search, for a profiler; "--first-paint-only 10000" only the first
-// paint. "--skip-100k" leaves the largest camera out. "--screenshot 10000
-// tree.png" saves a picture of that tree, expanded and scrolled halfway.
+// paint. Both take "default" for the default camera. "--skip-100k"
+// leaves the largest camera out. "--screenshot 10000 tree.png" saves a
+// picture of that tree, expanded and scrolled halfway.
 
 #include "benchmarkutil.h"
 
@@ -99,6 +100,12 @@ Camera syntheticCamera(int featureCount, int polled, int changing)
     camera.device = SimulatedDevice::fromDescription(SyntheticNodeMapGenerator(options).generateDevice());
     camera.nodeMaps = camera.device->nodeMapNames();
     return camera;
+}
+
+//! "default" for the default camera, else a synthetic one of that many features.
+Camera cameraNamed(const QString& name)
+{
+    return name == QLatin1String("default") ? defaultCamera() : syntheticCamera(name.toInt(), -1, -1);
 }
 
 //! Paint events of a viewport, to know that a paint has happened, and when
@@ -704,7 +711,7 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     const int searchOnly = arguments.indexOf(QStringLiteral("--search-only"));
     if (searchOnly > 0 && searchOnly + 1 < arguments.size()) {
-        const Camera camera = syntheticCamera(arguments.at(searchOnly + 1).toInt(), -1, -1);
+        const Camera camera = cameraNamed(arguments.at(searchOnly + 1));
         OurTree tree(camera);
         tree.showAndPaint();
         out << "expand every category [ms] " << ms(BenchmarkUtil::timeMs([&] { tree.expandAll(); })) << '\n';
@@ -752,7 +759,7 @@ int main(int argc, char** argv)
     // the feature tree on N synthetic features; for a profiler.
     const int firstPaintOnly = arguments.indexOf(QStringLiteral("--first-paint-only"));
     if (firstPaintOnly > 0 && firstPaintOnly + 1 < arguments.size()) {
-        const Camera camera = syntheticCamera(arguments.at(firstPaintOnly + 1).toInt(), -1, -1);
+        const Camera camera = cameraNamed(arguments.at(firstPaintOnly + 1));
         {
             PlainTree warmUp(camera);
             warmUp.model.fetchAll();
