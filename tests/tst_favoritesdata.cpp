@@ -11,6 +11,8 @@
 
 #include <limits>
 
+#include <sys/stat.h>
+
 using Item = FavoritesData::FavoritesDataItem;
 
 namespace {
@@ -210,6 +212,8 @@ private slots:
     void saveRemovesTheTailOfAShortenedList();
     void saveOfAnEmptyListRemovesAllEntries();
     void saveKeepsPassedOverPositions();
+    void saveOfWhatIsStoredLeavesTheFileAlone_data();
+    void saveOfWhatIsStoredLeavesTheFileAlone();
     void emptyDisplayNameDoesNotSurviveARestart();
     void starInANameDoesNotSurviveARestart_data();
     void starInANameDoesNotSurviveARestart();
@@ -1352,6 +1356,43 @@ void TestFavoritesData::saveOfAnEmptyListRemovesAllEntries()
     QCOMPARE(sortedChildKeys(QLatin1String(storeGroup)),
         QStringList({ "Expanded", "NumberOfEntries", "Version", "ViewAll" }));
     QCOMPARE(storedValue(QLatin1String(storeGroup), QStringLiteral("NumberOfEntries")).toInt(), 0);
+}
+
+void TestFavoritesData::saveOfWhatIsStoredLeavesTheFileAlone_data()
+{
+    // Every view that goes and every model that dies saves the list. When
+    // nothing changed, the file must not be replaced (and flushed) again.
+    QTest::addColumn<QVariantMap>("before");
+    QTest::addColumn<bool>("rewritten");
+    QTest::newRow("the same list") << QVariantMap() << false;
+    QTest::newRow("another entry") << QVariantMap { { QStringLiteral("1"), "X*XShown*@CameraDevice" } } << true;
+    QTest::newRow("another count") << QVariantMap { { QStringLiteral("NumberOfEntries"), 1 } } << true;
+    QTest::newRow("another flag") << QVariantMap { { QStringLiteral("Expanded"), 1 } } << true;
+    QTest::newRow("a flag spelled as a boolean") << QVariantMap { { QStringLiteral("ViewAll"), "true" } } << true;
+    QTest::newRow("an older version") << QVariantMap { { QStringLiteral("Version"), 2 } } << true;
+}
+
+void TestFavoritesData::saveOfWhatIsStoredLeavesTheFileAlone()
+{
+    QFETCH(QVariantMap, before);
+    QFETCH(bool, rewritten);
+    FavoritesData store; // view all true, not expanded
+    fill(store, { "A", "B" });
+    QVERIFY(store.SaveFavorites(QLatin1String(storeGroup)));
+    if (!before.isEmpty())
+        writeGroup(QLatin1String(storeGroup), before);
+
+    const QByteArray path = QFile::encodeName(QSettings().fileName());
+    struct stat statBefore;
+    QCOMPARE(::stat(path.constData(), &statBefore), 0);
+    QVERIFY(store.SaveFavorites(QLatin1String(storeGroup)));
+    struct stat statAfter;
+    QCOMPARE(::stat(path.constData(), &statAfter), 0);
+    // A rewrite replaces the file with a new one: another inode.
+    QCOMPARE(statAfter.st_ino != statBefore.st_ino, rewritten);
+    QCOMPARE(fileSection(QLatin1String(storeGroup)),
+        QStringList({ "0=A*AShown*@CameraDevice", "1=B*BShown*@CameraDevice", "Expanded=0", "NumberOfEntries=2",
+            "Version=3", "ViewAll=1" }));
 }
 
 void TestFavoritesData::saveKeepsPassedOverPositions()

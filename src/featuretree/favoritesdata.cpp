@@ -41,6 +41,18 @@ bool isSameFavorite(const FavoritesData::FavoritesDataItem& a, const FavoritesDa
     return a.name == b.name && a.nodeMapName == b.nodeMapName;
 }
 
+// Writes value under key unless the key holds the same text already. QSettings
+// takes any setValue() for a change: it then locks the settings file, writes
+// a new one and flushes both to disk, which a view that goes without having
+// changed the list should not pay for. A value stored in another spelling
+// ("true", "01") is written again in the store's own.
+void setIfDifferent(QSettings& settings, const QString& key, const QVariant& value)
+{
+    const QVariant stored = settings.value(key);
+    if (!stored.isValid() || stored.toString() != value.toString())
+        settings.setValue(key, value);
+}
+
 // The entry positions from `first` up to `end` - 1 that have a key in the
 // current group, in ascending order. Only the spelling that entryKey() makes
 // counts, so "07" or "+7" is not position 7.
@@ -165,18 +177,18 @@ bool FavoritesData::SaveFavorites(const QString& group)
 
     QSettings settings;
     settings.beginGroup(group);
-    settings.setValue(versionKey(), currentFormatVersion);
+    setIfDifferent(settings, versionKey(), currentFormatVersion);
     const int oldNumberOfEntries = settings.value(numberOfEntriesKey(), 0).toInt();
     const int numberOfEntries = m_items.count();
-    settings.setValue(numberOfEntriesKey(), numberOfEntries);
+    setIfDifferent(settings, numberOfEntriesKey(), numberOfEntries);
 
     for (int position = 0; position < numberOfEntries; ++position) {
         const FavoritesDataItem& item = m_items.at(position);
         // Such an entry could not be loaded again. Its key keeps what it held.
         if (item.nodeMapName.isEmpty() || item.name.isEmpty())
             continue;
-        settings.setValue(
-            entryKey(position), QStringLiteral("%1*%2*%3").arg(item.name, item.displayName, item.nodeMapName));
+        setIfDifferent(settings, entryKey(position),
+            QStringLiteral("%1*%2*%3").arg(item.name, item.displayName, item.nodeMapName));
     }
 
     // A shortened list leaves no tail behind.
@@ -184,8 +196,8 @@ bool FavoritesData::SaveFavorites(const QString& group)
     for (int position : tail)
         settings.remove(entryKey(position));
 
-    settings.setValue(viewAllKey(), m_viewAll ? 1 : 0);
-    settings.setValue(expandedKey(), m_expanded ? 1 : 0);
+    setIfDifferent(settings, viewAllKey(), m_viewAll ? 1 : 0);
+    setIfDifferent(settings, expandedKey(), m_expanded ? 1 : 0);
     settings.endGroup();
     return true;
 }
