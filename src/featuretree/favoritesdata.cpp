@@ -1,5 +1,7 @@
 #include "favoritesdata.h"
 
+#include "settingswrite.h"
+
 #include <QByteArray>
 #include <QSettings>
 #include <QStringList>
@@ -39,18 +41,6 @@ QString entryKey(int position)
 bool isSameFavorite(const FavoritesData::FavoritesDataItem& a, const FavoritesData::FavoritesDataItem& b)
 {
     return a.name == b.name && a.nodeMapName == b.nodeMapName;
-}
-
-// Writes value under key unless the key holds the same text already. QSettings
-// takes any setValue() for a change: it then locks the settings file, writes
-// a new one and flushes both to disk, which a view that goes without having
-// changed the list should not pay for. A value stored in another spelling
-// ("true", "01") is written again in the store's own.
-void setIfDifferent(QSettings& settings, const QString& key, const QVariant& value)
-{
-    const QVariant stored = settings.value(key);
-    if (!stored.isValid() || stored.toString() != value.toString())
-        settings.setValue(key, value);
 }
 
 // The entry positions from `first` up to `end` - 1 that have a key in the

@@ -1,5 +1,7 @@
 #include "featuretreehighlighter.h"
 
+#include "settingswrite.h"
+
 #include <QSettings>
 
 namespace {
@@ -15,12 +17,9 @@ FeatureTreeHighlighter::FeatureTreeHighlighter()
     m_highlightColor.setNamedColor(stored.isValid() ? stored.toString() : QLatin1String(defaultHighlightColor));
     if (!m_highlightColor.isValid())
         m_highlightColor.setNamedColor(QLatin1String(defaultHighlightColor));
-    // Written back, so that after the first run the key is there to be edited.
-    // A key that holds exactly that text already is left alone: writing it
-    // again would lock, rewrite and flush the whole settings file to disk for
-    // every view made, which costs more than all the rest of a new tree.
-    if (!stored.isValid() || stored.toString() != m_highlightColor.name())
-        settings.setValue(key, m_highlightColor.name());
+    // Written back, so that after the first run the key is there to be edited;
+    // not again when it holds that text, as every view makes a highlighter.
+    setIfDifferent(settings, key, m_highlightColor.name());
     settings.endGroup();
 }
 
