@@ -1,5 +1,6 @@
 #include "featuretreedelegate.h"
 
+#include "editorpark.h"
 #include "featuretreehighlighter.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreeitem.h"
@@ -61,7 +62,13 @@ QWidget* FeatureTreeDelegate::createEditor(
         if (item->getAccessMode() <= GenApi::NA)
             return nullptr;
         const QSharedPointer<IParameter> node = item->node();
-        switch (item->editorType()) {
+        const int editorType = item->editorType();
+        // The editor that a bulk change of the view closed on this parameter, if it is kept.
+        if (EditorPark* park = EditorPark::of(const_cast<FeatureTreeDelegate*>(this), false)) {
+            if (QWidget* editor = park->take(node, editorType, parent))
+                return editor;
+        }
+        switch (editorType) {
         case FeatureTreeItem::EditorInt:
         case FeatureTreeItem::EditorIntSlider:
             return createIntEditor(parent, option, node.dynamicCast<IIntegerParameter>());
@@ -165,10 +172,19 @@ void FeatureTreeDelegate::emitCommitData()
 
 void FeatureTreeDelegate::destroyEditor(QWidget* editor, QModelIndex const& index) const
 {
-    Q_UNUSED(index)
+    if (!editor)
+        return;
+    // While the view closes its editors for a bulk change, ours are kept for
+    // the rows that come back (see EditorPark). The index is still valid
+    // there: the view closes them before the model changes its rows.
+    EditorPark* park = EditorPark::of(const_cast<FeatureTreeDelegate*>(this), false);
+    if (park && park->isOpen() && m_extension && dynamic_cast<AbstractItemEditor*>(editor)) {
+        auto* item = qobject_cast<FeatureTreeINodeItem*>(m_extension->getFeatureTreeItem(index));
+        if (item && park->park(editor, item->node(), item->editorType()))
+            return;
+    }
     // Later, never at once: the editor may be the sender of the signal that led here.
-    if (editor)
-        editor->deleteLater();
+    editor->deleteLater();
 }
 
 void FeatureTreeDelegate::setEditorData(QWidget* editor, QModelIndex const& index) const

@@ -1,5 +1,7 @@
 #include "featuretreeview.h"
 
+#include "editorpark.h"
+
 #include "favoritesdata.h"
 #include "featuretreedelegate.h"
 #include "featuretreeitem.h"
@@ -179,6 +181,7 @@ void FeatureTreeView::endBulkChange()
     openEditorsInSight();
     openWaitingEditorsWithinTurn();
     placeEditors();
+    releaseParkedEditors(true);
 }
 
 void FeatureTreeView::closeEditorsForBulkChange()
@@ -195,6 +198,12 @@ void FeatureTreeView::closeEditorsForBulkChange()
     const QModelIndex current = currentIndex();
     const QList<QPersistentModelIndex> cells = m_editorIndexes.values();
     m_editorIndexes.clear();
+    // Our delegate keeps the editors aside for the rows that stay, which get
+    // them back when they open theirs again (see EditorPark).
+    EditorPark* park
+        = qobject_cast<FeatureTreeDelegate*>(itemDelegate()) ? EditorPark::of(itemDelegate(), true) : nullptr;
+    if (park)
+        park->setOpen(true);
     for (const QPersistentModelIndex& cell : cells) {
         if (!cell.isValid())
             continue;
@@ -206,6 +215,16 @@ void FeatureTreeView::closeEditorsForBulkChange()
         if (indexWidget(cell))
             closePersistentEditor(cell);
     }
+    if (park)
+        park->setOpen(false);
+}
+
+void FeatureTreeView::releaseParkedEditors(bool whenAllOpen)
+{
+    if (whenAllOpen && (hasEditorsToOpen() || m_bulkDepth > 0))
+        return;
+    if (EditorPark* park = EditorPark::of(itemDelegate(), false))
+        park->release();
 }
 
 void FeatureTreeView::openVisibleEditors(QModelIndex const& parent)
@@ -529,6 +548,7 @@ void FeatureTreeView::dropWaitingEditors()
     m_waitingBranches.clear();
     m_waitingTickets.clear();
     m_rootTicket = 0;
+    releaseParkedEditors(false);
 }
 
 void FeatureTreeView::openWaitingEditorsFor(qint64 nanoseconds)
@@ -575,6 +595,7 @@ void FeatureTreeView::openWaitingEditorsFor(qint64 nanoseconds)
             break;
     }
     m_openingWaitingEditors = false;
+    releaseParkedEditors(true);
 }
 
 void FeatureTreeView::currentChanged(QModelIndex const& current, QModelIndex const& previous)

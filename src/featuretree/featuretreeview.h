@@ -222,6 +222,9 @@ private:
     void postEditorSlice();
     //! Forgets every waiting editor.
     void dropWaitingEditors();
+    // The editors kept aside by the last bulk change go; with `whenAllOpen`,
+    // only once no editor is waiting to open and no bulk change is running.
+    void releaseParkedEditors(bool whenAllOpen);
 
     GenApi::EVisibility m_visibility;
     QSet<QPersistentModelIndex> m_persistentIndexes;
