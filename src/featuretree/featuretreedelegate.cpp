@@ -32,6 +32,17 @@ bool isSliderRepresentation(const QString& representation)
     return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
 }
 
+//! Whether the editor is one that createEditor() makes, of that very class:
+//! only those are given back by it.
+bool isOwnEditorClass(const QWidget* editor)
+{
+    const QMetaObject* kind = editor->metaObject();
+    return kind == &EnumEditor::staticMetaObject || kind == &ToolButtonEditor::staticMetaObject
+        || kind == &CheckBoxEditor::staticMetaObject || kind == &IntSliderEditor::staticMetaObject
+        || kind == &IntEditor::staticMetaObject || kind == &FloatSliderEditor::staticMetaObject
+        || kind == &FloatEditor::staticMetaObject;
+}
+
 QString representationOf(const QSharedPointer<IParameter>& parameter)
 {
     const QSharedPointer<IAdvancedParameterAccess> access = parameter->advancedAccess();
@@ -178,7 +189,7 @@ void FeatureTreeDelegate::destroyEditor(QWidget* editor, QModelIndex const& inde
     // the rows that come back (see EditorPark). The index is still valid
     // there: the view closes them before the model changes its rows.
     EditorPark* park = EditorPark::of(const_cast<FeatureTreeDelegate*>(this), false);
-    if (park && park->isOpen() && m_extension && dynamic_cast<AbstractItemEditor*>(editor)) {
+    if (park && park->isOpen() && m_extension && isOwnEditorClass(editor)) {
         auto* item = qobject_cast<FeatureTreeINodeItem*>(m_extension->getFeatureTreeItem(index));
         if (item && park->park(editor, item->node(), item->editorType()))
             return;
