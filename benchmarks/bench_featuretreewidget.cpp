@@ -34,7 +34,8 @@
 // given, for a profiler; "--first-paint-only 10000" only the first
 // paint. Both take "default" for the default camera. "--skip-100k"
 // leaves the largest camera out. "--screenshot 10000 tree.png" saves a
-// picture of that tree, expanded and scrolled halfway.
+// picture of that tree, expanded and scrolled halfway; a search text after
+// the file name is typed first.
 
 #include "benchmarkutil.h"
 
@@ -742,6 +743,11 @@ int main(int argc, char** argv)
         OurTree tree(camera);
         tree.showAndPaint();
         tree.expandAll();
+        // A search text after the file name: the picture shows its results.
+        if (screenshot + 3 < arguments.size() && !arguments.at(screenshot + 3).startsWith(QLatin1String("--"))) {
+            tree.searchEdit()->setFocus();
+            tree.type(arguments.at(screenshot + 3));
+        }
         QScrollBar* bar = tree.widget.treeView()->verticalScrollBar();
         bar->setValue(bar->maximum() / 2);
         settleAndPaint(&tree.widget);

@@ -261,14 +261,22 @@ void FeatureTreeView::updateEditorGeometries()
         QTreeView::updateEditorGeometries();
         return;
     }
-    if (m_placeEditorsPosted)
+    postOnce(&FeatureTreeView::m_placeEditorsPosted, &FeatureTreeView::placeEditors);
+}
+
+void FeatureTreeView::postOnce(bool FeatureTreeView::*posted, void (FeatureTreeView::*call)())
+{
+    if (this->*posted)
         return;
-    m_placeEditorsPosted = true;
+    this->*posted = true;
+    // A posted call, not a timer: it runs before the repaint that the same
+    // turn of the event loop asks for, and dies with the view. The call
+    // clears the flag; a call that clears it first cancels this one.
     QMetaObject::invokeMethod(
         this,
-        [this] {
-            if (m_placeEditorsPosted)
-                placeEditors();
+        [this, posted, call] {
+            if (this->*posted)
+                (this->*call)();
         },
         Qt::QueuedConnection);
 }
@@ -490,18 +498,7 @@ void FeatureTreeView::openEditorsInSight()
 
 void FeatureTreeView::postEditorSlice()
 {
-    if (m_editorSlicePosted)
-        return;
-    m_editorSlicePosted = true;
-    // A posted call, not a timer: it runs before the repaint that the
-    // same turn of the event loop asks for, and dies with the view.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_editorSlicePosted)
-                openEditorSlice();
-        },
-        Qt::QueuedConnection);
+    postOnce(&FeatureTreeView::m_editorSlicePosted, &FeatureTreeView::openEditorSlice);
 }
 
 void FeatureTreeView::openEditorSlice()

@@ -227,6 +227,9 @@ private:
     // The editors kept aside by the last bulk change go; with `whenAllOpen`,
     // only once no editor is waiting to open and no bulk change is running.
     void releaseParkedEditors(bool whenAllOpen);
+    // Posts `call` to the event loop unless the flag `posted` says it is
+    // posted already; the call is skipped if the flag is cleared before it runs.
+    void postOnce(bool FeatureTreeView::*posted, void (FeatureTreeView::*call)());
 
     GenApi::EVisibility m_visibility;
     QSet<QPersistentModelIndex> m_persistentIndexes;
