@@ -40,8 +40,6 @@ public:
     //! While open, park() takes editors; closed, it takes none.
     void setOpen(bool open) { m_open = open; }
     bool isOpen() const { return m_open; }
-    bool isEmpty() const { return m_editors.isEmpty(); }
-    int size() const { return int(m_editors.size()); }
 
     /*!
      * Keeps `editor`, the `editorType` editor of `node`, hidden, if the park

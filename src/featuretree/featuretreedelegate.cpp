@@ -186,8 +186,8 @@ void FeatureTreeDelegate::destroyEditor(QWidget* editor, QModelIndex const& inde
     if (!editor)
         return;
     // While the view closes its editors for a bulk change, ours are kept for
-    // the rows that come back (see EditorPark). The index is still valid
-    // there: the view closes them before the model changes its rows.
+    // the rows that come back (see EditorPark). The view closes them from
+    // its row signals, where the proxy's indexes are all still valid.
     EditorPark* park = EditorPark::of(const_cast<FeatureTreeDelegate*>(this), false);
     if (park && park->isOpen() && m_extension && isOwnEditorClass(editor)) {
         auto* item = qobject_cast<FeatureTreeINodeItem*>(m_extension->getFeatureTreeItem(index));
